@@ -1,0 +1,18 @@
+#include "expr/fault.h"
+
+namespace velmora::expr {
+
+std::string FaultDescription(int number) {
+  switch (number) {
+    case Fault::kInvalidCall: return "Invalid procedure call or argument";
+    case Fault::kOverflow: return "Overflow";
+    case Fault::kOutOfMemory: return "Out of memory";
+    case Fault::kDivisionByZero: return "Division by zero";
+    case Fault::kTypeMismatch: return "Type mismatch";
+    default: return "Application-defined or object-defined error";
+  }
+}
+
+Fault::Fault(int number) : number_(number), description_(FaultDescription(number)) {}
+
+}  // namespace velmora::expr
