@@ -11,8 +11,7 @@ namespace velmora::cli {
 struct Command {
   const char* name;
   const char* summary;
-  int (*run)(const std::vector<std::string>& args, std::istream& in, std::ostream& out,
-             std::ostream& err);
+  int (*run)(const std::vector<std::string>& args, std::istream& in, std::ostream& out, std::ostream& err);
 };
 
 // The table of subcommands (cli/commands.cpp).

@@ -33,8 +33,7 @@ bool ParseDoubleLiteral(std::string_view s, double& value) {
 
 }  // namespace
 
-int RunNumber(const std::vector<std::string>& args, std::istream& in, std::ostream& out,
-              std::ostream& err) {
+int RunNumber(const std::vector<std::string>& args, std::istream& in, std::ostream& out, std::ostream& err) {
   if (args.empty()) {
     err << "usage: velmora-cli number totext|tonumber|roundto N|toshort\n";
     return 2;

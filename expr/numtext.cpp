@@ -69,8 +69,7 @@ std::size_t NumberToText(double x, char* buffer) {
     buffer[0] = '0';
     return 1;
   }
-  const auto [end, ec] =
-      std::to_chars(buffer, buffer + kNumberTextMax, x, std::chars_format::general, 15);
+  const auto [end, ec] = std::to_chars(buffer, buffer + kNumberTextMax, x, std::chars_format::general, 15);
   (void)ec;  // 15 digits of a finite double always fit the buffer
   for (char* p = buffer; p != end; ++p) {
     if (*p == 'e') {
@@ -162,13 +161,15 @@ double RoundTo(double x, int n) {
   const int keep = exp10 + n + 1;  // number of digits that survive
   if (keep >= count) {
     // Nothing to cut: the value is its own 15-digit decimal form.
-    const double value = TextToNumber(std::string_view(buf.data(), static_cast<std::size_t>(end - buf.data())));
+    const double value =
+        TextToNumber(std::string_view(buf.data(), static_cast<std::size_t>(end - buf.data())));
     return x < 0 ? -value : value;
   }
   if (keep < 0) return 0.0;
   const int next = digits[static_cast<std::size_t>(keep)];
   bool restNonZero = false;
-  for (int k = keep + 1; k < count; ++k) restNonZero = restNonZero || digits[static_cast<std::size_t>(k)] != 0;
+  for (int k = keep + 1; k < count; ++k)
+    restNonZero = restNonZero || digits[static_cast<std::size_t>(k)] != 0;
   const int last = keep > 0 ? digits[static_cast<std::size_t>(keep - 1)] : 0;
   const bool up = next > 5 || (next == 5 && (restNonZero || (last % 2) == 1));
   // Build the kept digits as an integer mantissa m, value = m * 10^-n.

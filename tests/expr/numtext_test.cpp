@@ -32,10 +32,8 @@ INSTANTIATE_TEST_SUITE_P(
         TextCase{100, "100", "integer value has no decimal point"},
         TextCase{1.0 / 3.0, "0.333333333333333", "15 significant digits"},
         TextCase{2.0 / 3.0, "0.666666666666667", "last digit rounded"},
-        TextCase{0.5, "0.5", "leading zero kept"},
-        TextCase{-0.5, "-0.5", "negative keeps its zero"},
-        TextCase{0, "0", "zero"},
-        TextCase{-0.0, "0", "negative zero prints as 0"},
+        TextCase{0.5, "0.5", "leading zero kept"}, TextCase{-0.5, "-0.5", "negative keeps its zero"},
+        TextCase{0, "0", "zero"}, TextCase{-0.0, "0", "negative zero prints as 0"},
         TextCase{1e-5, "1E-05", "below 1E-04 goes to exponent form"},
         TextCase{0.0001, "0.0001", "1E-04 still plain"},
         TextCase{1.5e20, "1.5E+20", "large values in exponent form"},
@@ -44,10 +42,8 @@ INSTANTIATE_TEST_SUITE_P(
         TextCase{1234567890123456.0, "1.23456789012346E+15", "cut to 15 digits"},
         TextCase{-4.567, "-4.567", "a K value of a plot"},
         TextCase{0.1 + 0.2, "0.3", "binary noise beyond 15 digits is not shown"},
-        TextCase{1e100, "1E+100", "three-digit exponent"},
-        TextCase{1.25e-300, "1.25E-300", "tiny value"},
-        TextCase{kInf, "1.#INF", "positive infinity"},
-        TextCase{-kInf, "-1.#INF", "negative infinity"},
+        TextCase{1e100, "1E+100", "three-digit exponent"}, TextCase{1.25e-300, "1.25E-300", "tiny value"},
+        TextCase{kInf, "1.#INF", "positive infinity"}, TextCase{-kInf, "-1.#INF", "negative infinity"},
         TextCase{std::numeric_limits<double>::quiet_NaN(), "1.#IND", "indefinite, positive sign"},
         TextCase{-std::numeric_limits<double>::quiet_NaN(), "-1.#IND", "indefinite, negative sign"}));
 
@@ -56,9 +52,7 @@ TEST(NumberToText, ZeroOverZeroIsNegativeIndefinite) {
   EXPECT_EQ(NumberToText(zero / zero), "-1.#IND");
 }
 
-TEST(NumberToText, NanWithPayloadIsQuietNan) {
-  EXPECT_EQ(NumberToText(std::nan("5")), "1.#QNAN");
-}
+TEST(NumberToText, NanWithPayloadIsQuietNan) { EXPECT_EQ(NumberToText(std::nan("5")), "1.#QNAN"); }
 
 TEST(NumberToText, BufferFormMatchesStringForm) {
   char buffer[kNumberTextMax];
@@ -83,24 +77,18 @@ TEST_P(TextToNumberTest, LeadingNumber) {
 
 INSTANTIATE_TEST_SUITE_P(
     Cases, TextToNumberTest,
-    ::testing::Values(ParseCase{"", 0, "empty text"},
-                      ParseCase{"   2.5x", 2.5, "blanks before, a word after"},
-                      ParseCase{"-.5", -0.5, "sign and no leading digit"},
-                      ParseCase{"1e3", 1000, "exponent"},
-                      ParseCase{"1E-05", 1e-5, "the formula engine's own spelling"},
-                      ParseCase{".", 0, "a point alone is no number"},
-                      ParseCase{"12abc", 12, "trailing word ignored"},
-                      ParseCase{"1,5", 1, "comma is no decimal separator"},
-                      ParseCase{"+7", 7, "plus sign"},
-                      ParseCase{"1e", 1, "exponent letter without digits"},
-                      ParseCase{"1e+", 1, "exponent sign without digits"},
-                      ParseCase{"abc", 0, "no number at all"},
-                      ParseCase{"- 5", 0, "blank after the sign"},
-                      ParseCase{"1.2.3", 1.2, "second point stops"},
-                      ParseCase{"1.#INF", 1, "non-finite spelling reads as 1"},
-                      ParseCase{"-1.#IND", -1, "negative indefinite reads as -1"},
-                      ParseCase{"1e-400", 0, "underflow reads as 0"},
-                      ParseCase{"\t 3", 3, "tab is a blank"}));
+    ::testing::Values(
+        ParseCase{"", 0, "empty text"}, ParseCase{"   2.5x", 2.5, "blanks before, a word after"},
+        ParseCase{"-.5", -0.5, "sign and no leading digit"}, ParseCase{"1e3", 1000, "exponent"},
+        ParseCase{"1E-05", 1e-5, "the formula engine's own spelling"},
+        ParseCase{".", 0, "a point alone is no number"}, ParseCase{"12abc", 12, "trailing word ignored"},
+        ParseCase{"1,5", 1, "comma is no decimal separator"}, ParseCase{"+7", 7, "plus sign"},
+        ParseCase{"1e", 1, "exponent letter without digits"},
+        ParseCase{"1e+", 1, "exponent sign without digits"}, ParseCase{"abc", 0, "no number at all"},
+        ParseCase{"- 5", 0, "blank after the sign"}, ParseCase{"1.2.3", 1.2, "second point stops"},
+        ParseCase{"1.#INF", 1, "non-finite spelling reads as 1"},
+        ParseCase{"-1.#IND", -1, "negative indefinite reads as -1"},
+        ParseCase{"1e-400", 0, "underflow reads as 0"}, ParseCase{"\t 3", 3, "tab is a blank"}));
 
 TEST(TextToNumber, OverflowFaults) {
   EXPECT_THROW(TextToNumber("1e400"), Fault);
@@ -123,10 +111,8 @@ TEST_P(RoundToTest, BankersOnDecimalForm) {
 
 INSTANTIATE_TEST_SUITE_P(
     Cases, RoundToTest,
-    ::testing::Values(RoundCase{2.5, 0, 2, "tie to even, down"},
-                      RoundCase{3.5, 0, 4, "tie to even, up"},
-                      RoundCase{-2.5, 0, -2, "negative tie"},
-                      RoundCase{0.125, 2, 0.12, "decimal tie down"},
+    ::testing::Values(RoundCase{2.5, 0, 2, "tie to even, down"}, RoundCase{3.5, 0, 4, "tie to even, up"},
+                      RoundCase{-2.5, 0, -2, "negative tie"}, RoundCase{0.125, 2, 0.12, "decimal tie down"},
                       RoundCase{0.135, 2, 0.14, "decimal tie up"},
                       RoundCase{2.675, 2, 2.68, "tie judged on the decimal form, not binary"},
                       RoundCase{1.0 / 3.0, 5, 0.33333, "geometry rounding"},
@@ -134,16 +120,13 @@ INSTANTIATE_TEST_SUITE_P(
                       RoundCase{9.999995, 5, 10, "carry through the nines"},
                       RoundCase{0.000004, 5, 0, "below half of the last place"},
                       RoundCase{0.000006, 5, 0.00001, "above half of the last place"},
-                      RoundCase{123.0, 2, 123, "nothing to cut"},
-                      RoundCase{0, 3, 0, "zero"},
+                      RoundCase{123.0, 2, 123, "nothing to cut"}, RoundCase{0, 3, 0, "zero"},
                       RoundCase{0.1 + 0.2, 5, 0.3, "binary noise goes"},
                       RoundCase{1234.5678, 0, 1235, "no decimals"}));
 
 TEST(RoundTo, NegativePlacesFault) { EXPECT_THROW(RoundTo(1.5, -1), Fault); }
 
-TEST(RoundTo, NonFiniteFaults) {
-  EXPECT_THROW(RoundTo(std::numeric_limits<double>::infinity(), 2), Fault);
-}
+TEST(RoundTo, NonFiniteFaults) { EXPECT_THROW(RoundTo(std::numeric_limits<double>::infinity(), 2), Fault); }
 
 struct IntCase {
   double value;
@@ -157,14 +140,12 @@ TEST_P(ToShortTest, TiesToEven) {
   EXPECT_EQ(ToShort(GetParam().value), GetParam().expected) << GetParam().why;
 }
 
-INSTANTIATE_TEST_SUITE_P(Cases, ToShortTest,
-                         ::testing::Values(IntCase{2.5, 2, "tie down to even"},
-                                           IntCase{3.5, 4, "tie up to even"},
-                                           IntCase{-0.5, 0, "negative tie to zero"},
-                                           IntCase{2.4, 2, "below half"},
-                                           IntCase{32767, 32767, "upper bound"},
-                                           IntCase{-32768, -32768, "lower bound"},
-                                           IntCase{32767.4, 32767, "rounds into range"}));
+INSTANTIATE_TEST_SUITE_P(
+    Cases, ToShortTest,
+    ::testing::Values(IntCase{2.5, 2, "tie down to even"}, IntCase{3.5, 4, "tie up to even"},
+                      IntCase{-0.5, 0, "negative tie to zero"}, IntCase{2.4, 2, "below half"},
+                      IntCase{32767, 32767, "upper bound"}, IntCase{-32768, -32768, "lower bound"},
+                      IntCase{32767.4, 32767, "rounds into range"}));
 
 TEST(ToShort, OutOfRangeFaults) {
   EXPECT_THROW(ToShort(32767.5), Fault);  // rounds to 32768

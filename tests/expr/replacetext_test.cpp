@@ -24,16 +24,15 @@ TEST_P(ReplaceTextTest, Rescans) {
 
 INSTANTIATE_TEST_SUITE_P(
     Cases, ReplaceTextTest,
-    ::testing::Values(
-        ReplaceCase{"SINK", "K", "(1.25)", "SIN(1.25)", "a value for K"},
-        ReplaceCase{"K^2+K", "K", "(-3)", "(-3)^2+(-3)", "every occurrence"},
-        ReplaceCase{"ab", "x", "x", "", "find equal to replace gives empty text"},
-        ReplaceCase{"ab", "", "y", "", "empty find gives empty text"},
-        ReplaceCase{"abc", "x", "y", "abc", "nothing found: the text itself"},
-        ReplaceCase{"aab", "ab", "b", "b", "rescan from the start catches the new occurrence"},
-        ReplaceCase{"aaab", "ab", "b", "b", "rescan repeats"},
-        ReplaceCase{"sink", "K", "(1)", "sink", "binary compare: case matters"},
-        ReplaceCase{"", "K", "(1)", "", "empty text"}));
+    ::testing::Values(ReplaceCase{"SINK", "K", "(1.25)", "SIN(1.25)", "a value for K"},
+                      ReplaceCase{"K^2+K", "K", "(-3)", "(-3)^2+(-3)", "every occurrence"},
+                      ReplaceCase{"ab", "x", "x", "", "find equal to replace gives empty text"},
+                      ReplaceCase{"ab", "", "y", "", "empty find gives empty text"},
+                      ReplaceCase{"abc", "x", "y", "abc", "nothing found: the text itself"},
+                      ReplaceCase{"aab", "ab", "b", "b", "rescan from the start catches the new occurrence"},
+                      ReplaceCase{"aaab", "ab", "b", "b", "rescan repeats"},
+                      ReplaceCase{"sink", "K", "(1)", "sink", "binary compare: case matters"},
+                      ReplaceCase{"", "K", "(1)", "", "empty text"}));
 
 TEST(ReplaceText, ReplacementContainingFindFaultsInsteadOfLooping) {
   EXPECT_THROW(ReplaceText("K", "K", "(K)"), Fault);
@@ -54,14 +53,13 @@ TEST_P(ReplaceAllTest, SinglePass) {
   EXPECT_EQ(ReplaceAll(c.text, c.find, c.replace), c.expected) << c.why;
 }
 
-INSTANTIATE_TEST_SUITE_P(
-    Cases, ReplaceAllTest,
-    ::testing::Values(AllCase{"aab", "ab", "b", "ab", "no rescan"},
-                      AllCase{"x+x", "x", "(x)", "(x)+(x)", "replacement may hold find"},
-                      AllCase{"abc", "", "y", "abc", "empty find leaves the text"},
-                      AllCase{"XxX", "X", "K", "KxK", "case-sensitive"},
-                      AllCase{"aaaa", "aa", "b", "bb", "non-overlapping, left to right"},
-                      AllCase{"", "a", "b", "", "empty text"}));
+INSTANTIATE_TEST_SUITE_P(Cases, ReplaceAllTest,
+                         ::testing::Values(AllCase{"aab", "ab", "b", "ab", "no rescan"},
+                                           AllCase{"x+x", "x", "(x)", "(x)+(x)", "replacement may hold find"},
+                                           AllCase{"abc", "", "y", "abc", "empty find leaves the text"},
+                                           AllCase{"XxX", "X", "K", "KxK", "case-sensitive"},
+                                           AllCase{"aaaa", "aa", "b", "bb", "non-overlapping, left to right"},
+                                           AllCase{"", "a", "b", "", "empty text"}));
 
 }  // namespace
 }  // namespace velmora::expr
