@@ -5,28 +5,46 @@
 namespace velmora::expr {
 namespace {
 constexpr std::size_t kMaxGrownText = std::size_t{64} << 20;
+
+bool EndsWith(const std::string& s, std::string_view tail) {
+  return s.size() >= tail.size() && std::string_view(s).substr(s.size() - tail.size()) == tail;
 }
+}  // namespace
 
 std::string ReplaceText(std::string_view text, std::string_view find, std::string_view replace) {
   if (find.empty() || find == replace) return std::string();
   if (replace.find(find) != std::string_view::npos) throw Fault(Fault::kOutOfMemory);
-  std::string out(text);
-  // Rescanning from the start finds the first occurrence of the new text.
-  // Nothing before the last replacement matched before it, so a new first
-  // occurrence can only begin where it overlaps the replaced part: the
-  // search resumes len(find) - 1 characters before it, which gives the
-  // same result as a scan from the start.
-  std::size_t from = 0;
-  std::size_t pos;
-  // A chain of replacements that keeps forming new occurrences without
-  // growing must still end: more rounds than any finite rewrite of this text
-  // could take are treated like the endless growth above.
+  // A one-character find can never be formed anew by a replacement that does
+  // not contain it, so one pass gives the same text as the rescans.
+  if (find.size() == 1) return ReplaceAll(text, find, replace);
+
+  // Replacing the first occurrence and scanning again from the start is the
+  // same as reading the text left to right into `out` (which never holds an
+  // occurrence) and, whenever `out` comes to end with `find`, dropping it and
+  // reading the replacement next, as if it stood in the input. The first
+  // occurrence to complete in `out` is the leftmost one of the whole text.
+  std::string out;
+  out.reserve(text.size());
+  std::string pending;  // replacement characters still to read, last first
+  std::size_t next = 0;
   std::size_t rounds = 0;
   const std::size_t maxRounds = 64 * (text.size() + 1) + 1'000'000;
-  while ((pos = out.find(find, from)) != std::string::npos) {
-    out.replace(pos, find.size(), replace);
-    if (out.size() > kMaxGrownText || ++rounds > maxRounds) throw Fault(Fault::kOutOfMemory);
-    from = pos >= find.size() - 1 ? pos - (find.size() - 1) : 0;
+  while (!pending.empty() || next < text.size()) {
+    if (!pending.empty()) {
+      out.push_back(pending.back());
+      pending.pop_back();
+    } else {
+      out.push_back(text[next++]);
+    }
+    if (EndsWith(out, find)) {
+      out.resize(out.size() - find.size());
+      pending.append(replace.rbegin(), replace.rend());
+      // A chain of replacements that keeps forming new occurrences must still
+      // end: past these bounds it is treated like endless growth.
+      if (out.size() + pending.size() + (text.size() - next) > kMaxGrownText || ++rounds > maxRounds) {
+        throw Fault(Fault::kOutOfMemory);
+      }
+    }
   }
   return out;
 }

@@ -32,7 +32,22 @@ INSTANTIATE_TEST_SUITE_P(
                       ReplaceCase{"aab", "ab", "b", "b", "rescan from the start catches the new occurrence"},
                       ReplaceCase{"aaab", "ab", "b", "b", "rescan repeats"},
                       ReplaceCase{"sink", "K", "(1)", "sink", "binary compare: case matters"},
-                      ReplaceCase{"", "K", "(1)", "", "empty text"}));
+                      ReplaceCase{"", "K", "(1)", "", "empty text"},
+                      ReplaceCase{"abab", "ab", "ba", "bbaa", "swaps bubble to the left until none is left"},
+                      ReplaceCase{"xaab", "aab", "ya", "xya", "an occurrence formed inside the replacement"},
+                      ReplaceCase{"aaabb", "ab", "c", "aacb", "replacement does not re-form the pair"},
+                      ReplaceCase{"KK", "KK", "(1)", "(1)", "two-character find"}));
+
+TEST(ReplaceText, LongTextStaysLinear) {
+  const std::string text(1'000'000, 'K');
+  EXPECT_EQ(ReplaceText(text, "K", "(1)").size(), 3'000'000u);
+  const std::string pairs = [] {
+    std::string s;
+    for (int i = 0; i < 200'000; ++i) s += "ab";
+    return s;
+  }();
+  EXPECT_EQ(ReplaceText(pairs, "ab", "c").size(), 200'000u);
+}
 
 TEST(ReplaceText, ReplacementContainingFindFaultsInsteadOfLooping) {
   EXPECT_THROW(ReplaceText("K", "K", "(K)"), Fault);
