@@ -1,6 +1,7 @@
 #include <istream>
 
 #include "cli/command.h"
+#include "cli/complexcommand.h"
 #include "cli/numbercommand.h"
 
 namespace velmora::cli {
@@ -9,6 +10,8 @@ const std::vector<Command>& Commands() {
   static const std::vector<Command> table = {
       {"number", "number totext|tonumber|roundto N|toshort: numeric text conventions, one line each",
        RunNumber},
+      {"complex", "complex OP Z1 [Z2]: one Complex Calculator operation on operand texts such as 3+j-4",
+       RunComplex},
   };
   return table;
 }
