@@ -477,6 +477,15 @@ TEST_F(CalculatorTest, ZeroBasePowerCasesOnListRoad) {
   EXPECT_TRUE(box.Boxes().empty());
 }
 
+TEST_F(CalculatorTest, ListRoadRefusesOnlyExactBaseOne) {
+  // ln(3+4i) / ln(1+i) = (1.609438 + .927295i) / (.346574 + .785398i).
+  calc.SelectFunction(kLogBaseEntry);
+  Operands("3+j4", "1+j1");
+  EXPECT_TRUE(calc.CommandCalculateClick());
+  ExpectResult("1.745113", "-1.279131", "1.745113+j-1.279131");
+  EXPECT_TRUE(box.Boxes().empty());
+}
+
 TEST_F(CalculatorTest, RefusedPowerLeavesLibraryValueUnshown) {
   EarlierResult();
   calc.SelectFunction("(Complex 1) ^ (Complex 2)");
