@@ -2,6 +2,8 @@
 
 #include "cli/command.h"
 #include "cli/complexcommand.h"
+#include "cli/evaluatorcommand.h"
+#include "cli/normalisecommand.h"
 #include "cli/numbercommand.h"
 
 namespace velmora::cli {
@@ -12,6 +14,13 @@ const std::vector<Command>& Commands() {
        RunNumber},
       {"complex", "complex OP Z1 [Z2]: one Complex Calculator operation on operand texts such as 3+j-4",
        RunComplex},
+      {"evaluator",
+       "evaluator [--trial] [--no-window] [--field NAME=VALUE]...: the text evaluator, one line each",
+       RunEvaluator},
+      {"normalise",
+       "normalise cleanup|evalform|trial|zagrade|shortforms|tangent|zamenisve|tooltext: one chain, "
+       "one line each",
+       RunNormalise},
   };
   return table;
 }

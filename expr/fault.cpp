@@ -9,6 +9,8 @@ std::string FaultDescription(int number) {
     case Fault::kOutOfMemory: return "Out of memory";
     case Fault::kDivisionByZero: return "Division by zero";
     case Fault::kTypeMismatch: return "Type mismatch";
+    case Fault::kOutOfStackSpace: return "Out of stack space";
+    case Fault::kObjectNotSet: return "Object variable or With block variable not set";
     default: return "Application-defined or object-defined error";
   }
 }

@@ -17,6 +17,10 @@ class Fault : public std::exception {
   static constexpr int kOutOfMemory = 7;
   static constexpr int kDivisionByZero = 11;
   static constexpr int kTypeMismatch = 13;
+  // Recursion past the depth the program allows (deeply nested brackets).
+  static constexpr int kOutOfStackSpace = 28;
+  // A window that is not there, as when no graph window is active.
+  static constexpr int kObjectNotSet = 91;
 
   explicit Fault(int number);
 

@@ -17,6 +17,10 @@ struct ReplacePair {
 // Which letter case a chain works in before its pairs are applied.
 enum class ChainCase { AsIs, Upper, Lower };
 
+// Converts the text to the chain's letter case (ASCII letters only), then
+// applies each pair in order with the single-pass ReplaceAll.
+std::string ApplyChain(std::string_view text, std::span<const ReplacePair> pairs, ChainCase letterCase);
+
 // Brackets and spaces in standard form: " " deleted, "{" and "[" to "(",
 // "}" and "]" to ")".
 std::string CleanUp(std::string_view typed);
@@ -50,7 +54,11 @@ std::string ToolTextForm(std::string_view typed);
 // an evaluation-form text, through the evaluator's replace.
 std::string SubstituteValue(std::string_view evaluationForm, double value);
 
-// The pair tables, for tests and for the command-line front end.
+// The pair tables, for tests and for the command-line front end. Case:
+// clean-up, short forms, tangent and ZameniSve as is; evaluation form and
+// ProveriSyn upper; ZagradePairs are Zagrade's four lower-case steps, applied
+// after the clean-up pairs; the tool form is its bracket pairs as is, then
+// its lower-case pairs.
 std::span<const ReplacePair> CleanUpPairs();
 std::span<const ReplacePair> EvaluationFormPairs();
 std::span<const ReplacePair> ProveriSynPairs();
@@ -58,5 +66,7 @@ std::span<const ReplacePair> ZagradePairs();
 std::span<const ReplacePair> NormalizeShortFormsPairs();
 std::span<const ReplacePair> TangentFormPairs();
 std::span<const ReplacePair> ZameniSvePairs();
+std::span<const ReplacePair> ToolTextFormBracketPairs();
+std::span<const ReplacePair> ToolTextFormLowerPairs();
 
 }  // namespace velmora::expr
