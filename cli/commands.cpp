@@ -3,6 +3,7 @@
 #include "cli/command.h"
 #include "cli/complexcommand.h"
 #include "cli/evaluatorcommand.h"
+#include "cli/geocommand.h"
 #include "cli/normalisecommand.h"
 #include "cli/numbercommand.h"
 
@@ -21,6 +22,11 @@ const std::vector<Command>& Commands() {
        "normalise cleanup|evalform|trial|zagrade|shortforms|tangent|zamenisve|tooltext: one chain, "
        "one line each",
        RunNormalise},
+      {"geo", "geo FIGURE CASE VALUES... [--yes|--no]: one solver of the Geometry Calculator", RunGeo},
+      {"convert",
+       "convert angles|areas|lengths FROM TO VALUE, or convert degrees DEG MIN SEC: units converter",
+       RunConvert},
+      {"base", "base INDEX VALUE: a result in base 10, 2, 16 or 8 (INDEX 0, 1, 2, 3)", RunBase},
   };
   return table;
 }
