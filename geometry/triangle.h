@@ -31,6 +31,13 @@ std::span<const std::string_view> EquilateralTriangleHelp();
 // perimeter boxes carry each other's tips.
 std::string_view TriangleToolTip(std::string_view box);
 
+// The page's buttons: `Command53` opens the menu of the selected type of
+// triangle, `Command61` clears the boxes.
+inline constexpr std::string_view kTriangleCalculateButton = "Command53";
+inline constexpr std::string_view kTriangleResetButton = "Command61";
+inline constexpr std::string_view kResetCaption = "Reset";
+inline constexpr std::string_view kRadiansButtonCaption = "Convert to Radians";
+
 // The "Convert to Radians" buttons `Command54`, `Command55`, `Command56`: the
 // angle box each one converts in place.
 std::string_view RadiansButtonBox(std::string_view button);

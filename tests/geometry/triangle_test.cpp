@@ -449,6 +449,8 @@ TEST(TrianglePage, ConvertToRadians) {
     ConvertToRadians(boxes, box);
     EXPECT_EQ(boxes.Text(box), c.radians) << c.why;
   }
+  EXPECT_EQ(kRadiansButtonCaption, "Convert to Radians");
+  EXPECT_EQ(kResetCaption, "Reset");
   EXPECT_EQ(RadiansButtonBox("Command54"), "txtta1");
   EXPECT_EQ(RadiansButtonBox("Command55"), "txttb1");
   EXPECT_EQ(RadiansButtonBox("Command56"), "txttc1");
