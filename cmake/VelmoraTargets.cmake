@@ -11,6 +11,13 @@ if(VELMORA_SANITIZE)
   add_link_options(-fsanitize=address,undefined)
 endif()
 
+# The fuzzers steer by coverage, so the libraries they drive carry the
+# coverage instrumentation too, not only the fuzzers' own entry points.
+if(VELMORA_FUZZ)
+  add_compile_options(-fsanitize=fuzzer-no-link)
+  add_link_options(-fsanitize=fuzzer-no-link)
+endif()
+
 # velmora_setup(<target>): warnings and source-rooted includes.
 function(velmora_setup target)
   get_target_property(type ${target} TYPE)
