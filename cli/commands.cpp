@@ -2,6 +2,7 @@
 
 #include "cli/command.h"
 #include "cli/complexcommand.h"
+#include "cli/enginecommand.h"
 #include "cli/evaluatorcommand.h"
 #include "cli/geocommand.h"
 #include "cli/normalisecommand.h"
@@ -27,6 +28,8 @@ const std::vector<Command>& Commands() {
        "convert angles|areas|lengths FROM TO VALUE, or convert degrees DEG MIN SEC: units converter",
        RunConvert},
       {"base", "base INDEX VALUE: a result in base 10, 2, 16 or 8 (INDEX 0, 1, 2, 3)", RunBase},
+      {"engine", "engine: formulas to the formula engine, one a line; prints ok, the result or fault",
+       RunEngine},
   };
   return table;
 }
