@@ -34,7 +34,7 @@ struct Token {
 
 // Blanks between tokens: space, tab, CR, LF. They separate tokens and are
 // otherwise ignored, so "SIN (1)" is SIN(1) but "SIN X" is two names.
-bool IsBlank(char c);
+inline bool IsBlank(char c) { return c == ' ' || c == '\t' || c == '\r' || c == '\n'; }
 
 // The token that starts at `pos` after any blanks; `pos` moves past it.
 // A number's exponent is only taken when a digit follows the "E" (with an
