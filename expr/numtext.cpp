@@ -57,6 +57,66 @@ long LeadingExponent(std::string_view mantissa, long exponent) {
   return exponent - zerosAfterPoint - 1;
 }
 
+// The 15-significant-digit general form from the shortest digits that read
+// back as x. When those are at most 15 digits they are also x rounded to 15
+// digits: x lies within half a unit in the last place of them, far inside
+// half a step of the 15-digit grid. Returns 0 when there are more than 15,
+// which the caller then rounds the long way, and for subnormal values, whose
+// last place is too coarse for the argument. It saves the precision
+// formatting on the plot's path, where values have few digits.
+std::size_t ShortestGeneral15(double x, char* buffer) {
+  if (std::fabs(x) < std::numeric_limits<double>::min()) return 0;
+  std::array<char, 40> sci{};
+  const auto [end, ec] = std::to_chars(sci.data(), sci.data() + sci.size(), x, std::chars_format::scientific);
+  if (ec != std::errc()) return 0;
+  const char* p = sci.data();
+  char* out = buffer;
+  if (*p == '-') *out++ = *p++;
+  std::array<char, 20> digits{};
+  int count = 0;
+  for (; p != end && *p != 'e'; ++p) {
+    if (*p == '.') continue;
+    if (count == 15) return 0;
+    digits[static_cast<std::size_t>(count++)] = *p;
+  }
+  while (count > 1 && digits[static_cast<std::size_t>(count - 1)] == '0') --count;
+  int exp10 = 0;
+  if (p != end) {
+    ++p;  // 'e'
+    const bool negative = *p == '-';
+    if (*p == '+' || *p == '-') ++p;
+    for (; p != end; ++p) exp10 = exp10 * 10 + (*p - '0');
+    if (negative) exp10 = -exp10;
+  }
+  const auto digit = [&](int k) { return digits[static_cast<std::size_t>(k)]; };
+  if (exp10 < -4 || exp10 >= 15) {
+    // d.dddE+XX, with at least two exponent digits, as "%.15G" writes it.
+    *out++ = digit(0);
+    if (count > 1) {
+      *out++ = '.';
+      for (int k = 1; k < count; ++k) *out++ = digit(k);
+    }
+    *out++ = 'E';
+    *out++ = exp10 < 0 ? '-' : '+';
+    const int e = exp10 < 0 ? -exp10 : exp10;
+    if (e >= 100) *out++ = static_cast<char>('0' + e / 100);
+    *out++ = static_cast<char>('0' + (e / 10) % 10);
+    *out++ = static_cast<char>('0' + e % 10);
+  } else if (exp10 < 0) {
+    *out++ = '0';
+    *out++ = '.';
+    for (int k = 0; k < -exp10 - 1; ++k) *out++ = '0';
+    for (int k = 0; k < count; ++k) *out++ = digit(k);
+  } else {
+    for (int k = 0; k <= exp10; ++k) *out++ = k < count ? digit(k) : '0';
+    if (count > exp10 + 1) {
+      *out++ = '.';
+      for (int k = exp10 + 1; k < count; ++k) *out++ = digit(k);
+    }
+  }
+  return static_cast<std::size_t>(out - buffer);
+}
+
 }  // namespace
 
 std::size_t NumberToText(double x, char* buffer) {
@@ -69,6 +129,7 @@ std::size_t NumberToText(double x, char* buffer) {
     buffer[0] = '0';
     return 1;
   }
+  if (const std::size_t n = ShortestGeneral15(x, buffer); n != 0) return n;
   const auto [end, ec] = std::to_chars(buffer, buffer + kNumberTextMax, x, std::chars_format::general, 15);
   (void)ec;  // 15 digits of a finite double always fit the buffer
   for (char* p = buffer; p != end; ++p) {

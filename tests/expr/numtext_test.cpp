@@ -2,9 +2,14 @@
 
 #include <gtest/gtest.h>
 
+#include <bit>
 #include <cmath>
+#include <cstdio>
+#include <cstdlib>
 #include <limits>
+#include <random>
 #include <string>
+#include <vector>
 
 #include "expr/fault.h"
 
@@ -174,6 +179,66 @@ TEST(PrcniFunc, ValuesByTheirText) {
   EXPECT_TRUE(PrcniFunc(-std::numeric_limits<double>::quiet_NaN()));
   EXPECT_FALSE(PrcniFunc(0.0));
   EXPECT_FALSE(PrcniFunc(1e308));
+}
+
+}  // namespace
+}  // namespace velmora::expr
+
+namespace velmora::expr {
+namespace {
+
+// NumberToText takes a short road for values with few digits; whatever road
+// it takes, it must write what the C library's "%.15G" writes (with the
+// platform's "0" for -0). Values of every kind: random bit patterns, the
+// plot's three-decimal samples, short decimals, powers of ten and their
+// neighbours, the range's edges.
+double ReadDouble(const std::string& text) { return std::strtod(text.c_str(), nullptr); }
+
+std::string Reference15G(double x) {
+  if (x == 0) return "0";
+  char buf[64];
+  std::snprintf(buf, sizeof buf, "%.15G", x);
+  return buf;
+}
+
+TEST(NumberToTextAgreementTest, MatchesPercent15GOnManyValues) {
+  std::mt19937_64 rng(20240611);
+  std::vector<double> values;
+  for (int i = 0; i < 100000; ++i) {
+    const double v = std::bit_cast<double>(rng());
+    if (std::isfinite(v)) values.push_back(v);
+  }
+  for (int i = -20000; i <= 20000; ++i) values.push_back(std::floor((i / 40.0) * 1000) / 1000);
+  std::uniform_int_distribution<int> digits(1, 17);
+  std::uniform_int_distribution<int> exps(-320, 308);
+  for (int i = 0; i < 100000; ++i) {
+    const int d = digits(rng);
+    const long long mant =
+        static_cast<long long>(rng() % 100000000000000000ULL) % static_cast<long long>(std::pow(10.0, d));
+    values.push_back(ReadDouble(std::to_string(mant) + "e" + std::to_string(exps(rng))));
+  }
+  for (int e = -320; e <= 308; ++e) {
+    const double p = ReadDouble("1e" + std::to_string(e));
+    values.push_back(p);
+    values.push_back(std::nextafter(p, 0.0));
+    values.push_back(std::nextafter(p, std::numeric_limits<double>::infinity()));
+    values.push_back(p * 0.999999999999999);
+    values.push_back(p * 9.99999999999999);
+  }
+  values.push_back(std::numeric_limits<double>::max());
+  values.push_back(std::numeric_limits<double>::min());
+  values.push_back(std::numeric_limits<double>::denorm_min());
+  values.push_back(999999999999999.5);
+  values.push_back(99999.99999999999);
+  int checked = 0;
+  for (double v : values) {
+    for (double x : {v, -v}) {
+      if (!std::isfinite(x)) continue;
+      ASSERT_EQ(NumberToText(x), Reference15G(x)) << std::hexfloat << x;
+      ++checked;
+    }
+  }
+  EXPECT_GT(checked, 400000);
 }
 
 }  // namespace
