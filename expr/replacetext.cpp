@@ -50,25 +50,30 @@ std::string ReplaceText(std::string_view text, std::string_view find, std::strin
 }
 
 std::string ReplaceAll(std::string_view text, std::string_view find, std::string_view replace) {
-  std::string out(text);
-  ReplaceAllInPlace(out, find, replace);
+  if (find.empty()) return std::string(text);
+  // Count first, so the result is built in one allocation: this runs once
+  // per plotted sample.
+  std::size_t count = 0;
+  for (std::size_t pos = text.find(find); pos != std::string_view::npos;
+       pos = text.find(find, pos + find.size())) {
+    ++count;
+  }
+  if (count == 0) return std::string(text);
+  std::string out;
+  out.reserve(text.size() - count * find.size() + count * replace.size());
+  std::size_t start = 0;
+  for (std::size_t pos = text.find(find); pos != std::string_view::npos; pos = text.find(find, start)) {
+    out.append(text.data() + start, pos - start);
+    out.append(replace);
+    start = pos + find.size();
+  }
+  out.append(text.data() + start, text.size() - start);
   return out;
 }
 
 void ReplaceAllInPlace(std::string& text, std::string_view find, std::string_view replace) {
-  if (find.empty()) return;
-  std::size_t pos = text.find(find);
-  if (pos == std::string::npos) return;
-  std::string out;
-  out.reserve(text.size() + (replace.size() > find.size() ? replace.size() * 4 : 0));
-  std::size_t start = 0;
-  while (pos != std::string::npos) {
-    out.append(text, start, pos - start);
-    out.append(replace);
-    start = pos + find.size();
-    pos = text.find(find, start);
-  }
-  out.append(text, start, std::string::npos);
+  if (find.empty() || text.find(find) == std::string::npos) return;
+  std::string out = ReplaceAll(text, find, replace);
   text.swap(out);
 }
 
