@@ -1,0 +1,59 @@
+#pragma once
+
+#include <memory>
+#include <string>
+#include <string_view>
+
+#include <QFont>
+#include <QImage>
+#include <QPainter>
+
+#include "graph/basicsurface.h"
+
+namespace velmora::graph_qt {
+
+// The graph surface as a retained picture: a QImage that QPainter draws on
+// and that keeps its pixels between commands, so a view only copies it to
+// the screen and a copy or a saved file is the picture itself. Lines are
+// drawn without anti-aliasing, as the picture box draws them; fonts are
+// sized in points at 96 dots per inch. "MS Sans Serif" and "Arial" resolve
+// to whatever the platform puts in their place; any other name must exist,
+// or reads back as the family that stands in for it.
+//
+// Text needs a QGuiApplication (see HeadlessGui for programs without one).
+class QImageSurface final : public graph::BasicSurface {
+ public:
+  QImageSurface(int width, int height);
+  ~QImageSurface() override;
+
+  // The picture as it stands now.
+  const QImage& Image();
+  bool SavePng(const QString& file);
+  // Keeps what fits, fills the rest with the back colour.
+  void Resize(int width, int height) override;
+
+  double TextWidth(std::string_view text) const override;
+  double TextHeight(std::string_view text) const override;
+
+ protected:
+  void PaintClear() override;
+  void PaintLine(double x1, double y1, double x2, double y2, graph::Colour colour) override;
+  void PaintCircle(double x, double y, double radius, graph::Colour colour) override;
+  void PaintText(double x, double y, std::string_view text) override;
+  void FontChanged() override;
+  std::string ResolveFontName(std::string_view requested) const override;
+
+ private:
+  QPainter& Painter();
+  void EndPainting();
+  QPen Pen(graph::Colour colour) const;
+
+  QImage image_;
+  std::unique_ptr<QPainter> painter_;
+  QFont font_;
+};
+
+// QColor of a program colour (blue in the high byte).
+QColor ToQColor(graph::Colour colour);
+
+}  // namespace velmora::graph_qt

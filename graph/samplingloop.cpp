@@ -1,0 +1,181 @@
+#include "graph/samplingloop.h"
+
+#include <cfloat>
+#include <cmath>
+
+#include "expr/fault.h"
+#include "expr/numtext.h"
+#include "graph/graphwindow.h"
+
+namespace velmora::graph {
+namespace {
+
+// The plot limit in user units.
+constexpr double kLimit = 100;
+
+template <class Statement>
+void ResumeNext(Statement&& statement) {
+  try {
+    statement();
+  } catch (const expr::Fault&) {
+  }
+}
+
+// The program's float arithmetic faults where a result is not finite.
+double Checked(double value) {
+  if (std::isnan(value)) throw expr::Fault(expr::Fault::kOverflow);
+  if (std::isinf(value)) throw expr::Fault(expr::Fault::kOverflow);
+  return value;
+}
+
+// Narrowing to single precision faults beyond its range.
+float ToSingle(double value) {
+  if (!(std::fabs(value) <= static_cast<double>(FLT_MAX))) throw expr::Fault(expr::Fault::kOverflow);
+  return static_cast<float>(value);
+}
+
+// Abs(Val(text of Y)) > 100: the test reads the value's text, so the five
+// spellings of a value that is not finite read as 1 or -1 and never pass,
+// and a value a hair above 100 whose 15 digits read 100 does not either.
+bool TextAboveLimit(double y) {
+  if (!std::isfinite(y)) return false;
+  const double a = std::fabs(y);
+  if (a < kLimit - 0.01 || a > kLimit + 0.01) return a > kLimit;
+  return std::fabs(expr::TextToNumber(expr::NumberToText(y))) > kLimit;
+}
+
+// How many passes the loop makes: the end is tested before each pass and
+// reached when the sum of the steps hits it. Counting the passes from the
+// span keeps them at one per pixel column, ScaleWidth + 1, whatever the
+// rounding of the repeated addition does near the end.
+long PassCount(double start, double end, double step) {
+  const double steps = (end - start) / step;
+  if (!std::isfinite(steps) || steps < 0) return 0;
+  constexpr double kMaxPasses = 10000000;
+  return static_cast<long>(std::floor(std::min(steps + 1e-7, kMaxPasses))) + 1;
+}
+
+}  // namespace
+
+const char* ActionName(PassAction action) {
+  switch (action) {
+    case PassAction::Skip: return "skip";
+    case PassAction::Move: return "move";
+    case PassAction::Line: return "line";
+  }
+  return "skip";
+}
+
+double CurveStrategy::SampleY(double kr) { return window_.F(kr); }
+double CurveStrategy::SampleX(double kr, double yr) { return window_.F2(kr, yr); }
+
+std::string SamplingLoop::ProgressText(double k, double centerX, double zoom, double scaleWidth) {
+  std::string text = "Done...   ";
+  ResumeNext([&] {
+    const double share =
+        Checked(100 * (k + centerX / zoom) / ((scaleWidth - centerX) / zoom + centerX / zoom));
+    // Int() of a share beyond any whole number the label can show faults.
+    if (std::fabs(share) >= 1e15) throw expr::Fault(expr::Fault::kOverflow);
+    text += std::to_string(static_cast<long long>(std::floor(share)));
+  });
+  text += '%';
+  return text;
+}
+
+LoopResult SamplingLoop::Run() {
+  GraphWindow& w = window_;
+  Surface& s = w.surface_;
+  LoopResult result;
+  const double start = -w.CenterX / w.Zoom;
+  const double step = 1 / w.Zoom;
+  const double end = (s.ScaleWidth() - w.CenterX) / w.Zoom;
+  const long passes = PassCount(start, end, step);
+
+  bool penUp = true;       // the last sample was off the plot vertically
+  bool notStarted = true;  // nothing plotted yet
+  bool first = false;      // Xpoc taken
+  double y = 0;
+  double x = 0;
+  double xp = 0;
+  double yp = 0;
+  double k = start;
+  for (long pass = 0; pass < passes; ++pass, k += step) {
+    ++result.passes;
+    PassAction action = PassAction::Skip;
+    // 1. K cut to three decimals toward minus infinity.
+    const double kr = std::floor(k * 1000) / 1000;
+    y = strategy_.SampleY(kr);
+    // 2-3. A value that is not finite, an exact 0 (how a failed evaluation
+    // comes back) or one beyond the limit is skipped.
+    if (!expr::PrcniFunc(y) && y != 0 && !(std::fabs(y) > kLimit)) {
+      // 4-5.
+      x = strategy_.SampleX(kr, std::floor(y * 1000) / 1000);
+      ResumeNext([&] { xp = Checked(w.CenterX + Checked(x * w.Zoom)); });
+      ResumeNext([&] { yp = Checked(w.CenterY + (-y) * w.Zoom); });
+      // 6.
+      if (strategy_.TakesXpoc() && !first) {
+        ResumeNext([&] { w.Xpoc = w.PomeriX(Checked((xp - s.ScaleWidth() / 2) / w.ZoomText())); });
+        first = true;
+      }
+      // 7. A fault in the range test takes the branch, as the platform's
+      // resume-next does.
+      ResumeNext([&] { s.SetDrawWidth(expr::ToShort(w.GraphLineWidth)); });
+      bool inRange = true;
+      ResumeNext([&] {
+        const float narrowed = ToSingle(yp);
+        inRange = 0 < narrowed && narrowed < s.ScaleHeight();
+      });
+      bool progress = true;
+      if (penUp) {
+        if (inRange) {
+          if (!notStarted) {
+            ResumeNext([&] { s.LineTo(xp, yp, w.Graph_Clr); });
+            action = PassAction::Line;
+          } else {
+            s.SetCurrentX(xp);
+            s.SetCurrentY(yp);
+            notStarted = false;
+            action = PassAction::Move;
+          }
+          penUp = false;
+        } else {
+          s.SetCurrentX(xp);
+          s.SetCurrentY(yp);
+          action = PassAction::Move;
+          progress = false;
+        }
+      } else {
+        ResumeNext([&] { s.LineTo(xp, yp, w.Graph_Clr); });
+        action = PassAction::Line;
+        if (!inRange) {
+          s.SetCurrentX(xp);
+          s.SetCurrentY(yp);
+          penUp = true;
+        }
+      }
+      // 8. Progress, and events run: only samples that get here.
+      if (progress) {
+        w.lblPerCent.Caption = ProgressText(k, w.CenterX, w.Zoom, s.ScaleWidth());
+        if (w.services_.host != nullptr) {
+          w.services_.host->ProgressChanged();
+          w.services_.host->DoEvents();
+        }
+      }
+    }
+    // 10. The pen for the next segment: invisible after a sample whose text
+    // reads beyond the limit or whose X is not finite.
+    const bool invisible = TextAboveLimit(y) || expr::PrcniFunc(x);
+    ResumeNext([&] { s.SetDrawStyle(invisible ? kInvisible : kSolid); });
+    if (w.services_.observer != nullptr)
+      w.services_.observer->Pass({kr, y, x, xp, yp, action, s.DrawStyle()});
+    // 11.
+    if (w.StopCrtanje) {
+      result.stopped = true;
+      break;
+    }
+  }
+  result.lastXp = xp;
+  return result;
+}
+
+}  // namespace velmora::graph

@@ -1,0 +1,239 @@
+#include "graph/graphwindow.h"
+
+#include <gtest/gtest.h>
+
+#include <string>
+#include <vector>
+
+#include "tests/graph/windowfixture.h"
+
+namespace velmora::graph {
+namespace {
+
+using testing::BracketedNumber;
+using testing::RecordingSurface;
+using testing::WindowFixture;
+
+TEST(GraphWindowLoad, DefaultsOfANewWindow) {
+  WindowFixture f(600, 400);
+  auto& w = f.Make();
+  EXPECT_EQ(w.Zoom, 30);
+  EXPECT_EQ(w.zlevel, 30);
+  EXPECT_EQ(w.lblzm.Caption, "30");
+  EXPECT_EQ(w.CenterX, 300);
+  EXPECT_EQ(w.CenterY, 200);
+  EXPECT_EQ(w.Graph_Clr, 0xC08000u);
+  EXPECT_EQ(w.GridColor, 0xBFBFBFu);
+  EXPECT_EQ(w.AxesColor, 0u);
+  EXPECT_EQ(w.AvBoja, 255u);
+  EXPECT_EQ(f.surface.BackColor(), 0xF5F5F5u);
+  EXPECT_EQ(w.lblPerCent.BackColor, 0xDFDFDFu);
+  EXPECT_FALSE(w.lblPerCent.Visible);
+  EXPECT_EQ(w.MovedText, "Moved:");
+  EXPECT_EQ(w.KolkoFunkc, 0);
+  EXPECT_FALSE(w.Drawing);
+  EXPECT_FALSE(w.Plotted);
+  EXPECT_FALSE(w.Zezaj);
+  EXPECT_EQ(w.optFunkcije, kCartesian);
+  EXPECT_EQ(w.labY.Caption, "Y (X) =");
+  EXPECT_EQ(w.txtX.Text, "K");
+  EXPECT_FALSE(w.txtX.Visible);
+  EXPECT_EQ(w.lblPointtab.Caption, "Value Tables:");
+  EXPECT_EQ(w.MS1.TabLines(), (std::vector<std::string>{"X\tY\tY'", "\t\t"}));
+  // The paper is on the surface.
+  EXPECT_EQ(f.surface.Ops().front().kind, RecordingSurface::Kind::Clear);
+  EXPECT_EQ(f.surface.LinesIn(0).size(), 2u);
+}
+
+TEST(GraphWindowLoad, ColoursComeFromTheSettings) {
+  WindowFixture f;
+  f.settings.Store("Boje", "Pozadina", "255");
+  f.settings.Store("Boje", "Grafik", "65280");
+  f.settings.Store("Boje", "Grid", "abc");  // a non-number reads 0
+  f.settings.Store("Boje", "Ose", "16711680");
+  auto& w = f.Make();
+  EXPECT_EQ(f.surface.BackColor(), 255u);
+  EXPECT_EQ(w.Graph_Clr, 65280u);
+  EXPECT_EQ(w.lblBoja.BackColor, 65280u);
+  EXPECT_EQ(w.GridColor, 0u);
+  EXPECT_EQ(w.AxesColor, 16711680u);
+}
+
+struct TypeCase {
+  int type;
+  const char* caption;
+  bool xVisible;
+};
+
+class OptFunkTest : public ::testing::TestWithParam<TypeCase> {};
+
+TEST_P(OptFunkTest, CaptionsAndTheXBox) {
+  WindowFixture f;
+  auto& w = f.Make();
+  w.txtX.Text = "CosK";
+  w.optFunk(GetParam().type);
+  EXPECT_EQ(w.optFunkcije, GetParam().type);
+  EXPECT_EQ(w.labY.Caption, GetParam().caption);
+  EXPECT_EQ(w.txtX.Visible, GetParam().xVisible);
+  EXPECT_EQ(w.LABx.Visible, GetParam().xVisible);
+  EXPECT_EQ(w.txtX.Text, GetParam().xVisible ? "CosK" : "K");
+  EXPECT_EQ(f.host.types.back(), GetParam().type);
+}
+
+INSTANTIATE_TEST_SUITE_P(Types, OptFunkTest,
+                         ::testing::Values(TypeCase{1, "Y (X) =", false}, TypeCase{2, "Y (K) =", true},
+                                           TypeCase{3, "R (K) =", false}));
+
+struct PodeliCase {
+  const char* line;
+  const char* y;
+  const char* x;
+  int type;
+};
+
+class PodeliFjeTest : public ::testing::TestWithParam<PodeliCase> {};
+
+TEST_P(PodeliFjeTest, SplitsARecentLine) {
+  WindowFixture f;
+  auto& w = f.Make();
+  w.PodeliFje(GetParam().line);
+  EXPECT_EQ(w.txtY.Text, GetParam().y);
+  EXPECT_EQ(w.txtX.Text, GetParam().x);
+  EXPECT_EQ(w.optFunkcije, GetParam().type);
+}
+
+INSTANTIATE_TEST_SUITE_P(Lines, PodeliFjeTest,
+                         ::testing::Values(PodeliCase{"SinX ; K | Cartesian", "SinX ", "K",
+                                                      1},  // last letter n
+                                           PodeliCase{"SinK ; CosK | Parametric", "SinK ", " CosK ",
+                                                      2},  // c: the X text as it stands
+                                           PodeliCase{"1+CosK ; K | Polar", "1+CosK ", "K", 3},  // r
+                                           PodeliCase{"no separators", "", "K", 1}));  // not a recent line
+
+TEST(GraphWindow, FSubstitutesKInUpperCaseAndPopsAll) {
+  WindowFixture f;
+  auto& w =
+      f.Make([](std::string_view formula) -> std::optional<double> { return BracketedNumber(formula) * 2; });
+  w.FuncY = "sinK+k";
+  f.engine->ClearSent();
+  EXPECT_EQ(w.F(-0.5), -1);
+  EXPECT_EQ(f.engine->Sent(), (std::vector<std::string>{"SIN(-0.5)+(-0.5)", "PopAll()"}));
+}
+
+TEST(GraphWindow, AFailedEvaluationGivesZero) {
+  WindowFixture f;
+  auto& w = f.Make();  // the engine faults on everything
+  w.FuncY = "LN(K)";
+  EXPECT_EQ(w.F(-1), 0);
+  w.FuncX = "K*Y";
+  EXPECT_EQ(w.F2(1, 2), 0);
+}
+
+TEST(GraphWindow, F2PutsInKThenY) {
+  WindowFixture f;
+  auto& w = f.Make([](std::string_view) -> std::optional<double> { return 7; });
+  w.FuncX = "k+Y*2";
+  f.engine->ClearSent();
+  EXPECT_EQ(w.F2(1.5, -2.25), 7);
+  EXPECT_EQ(f.engine->Sent(), (std::vector<std::string>{"(1.5)+(-2.25)*2", "PopAll()"}));
+}
+
+TEST(GraphWindow, CartesianXIsKItself) {
+  WindowFixture f;
+  auto& w = f.Make();
+  w.FuncX = "K";
+  f.engine->ClearSent();
+  EXPECT_EQ(w.F2(-9.966, 3), -9.966);
+  EXPECT_TRUE(f.engine->Sent().empty());
+}
+
+TEST(GraphWindow, ClearGraphWholeEmptiesTheBoxesAndTheTable) {
+  WindowFixture f;
+  auto& w = f.Make();
+  w.optFunk(kParametric);
+  w.txtY.Text = "SinK";
+  w.txtY.List = {"SinK", "X^2"};
+  w.txtX.List = {"CosK"};
+  w.cmbR3.List = {"SinK"};
+  w.KolkoFunkc = 2;
+  w.lblPointtab.Caption = "Value Tables for SinK";
+  w.MS1.SetRows(5);
+  w.LineY.Visible = true;
+  f.surface.ClearOps();
+  w.ClearGraph(true);
+  EXPECT_EQ(w.txtY.Text, "");
+  EXPECT_TRUE(w.txtY.List.empty());
+  EXPECT_TRUE(w.cmbR3.List.empty());
+  EXPECT_EQ(w.KolkoFunkc, 0);
+  EXPECT_EQ(w.optFunkcije, kCartesian);
+  EXPECT_EQ(w.txtX.Text, "K");
+  EXPECT_FALSE(w.txtX.Visible);
+  EXPECT_EQ(w.lblxy.Caption, "Y (X) =");
+  EXPECT_EQ(w.lblPointtab.Caption, "Value Tables:");
+  EXPECT_EQ(w.MS1.Rows(), 2);
+  EXPECT_FALSE(w.LineY.Visible);
+  EXPECT_EQ(f.surface.Ops().front().kind, RecordingSurface::Kind::Clear);
+  EXPECT_FALSE(f.surface.Lines().empty());  // the grid again
+}
+
+TEST(GraphWindow, ClearGraphPartKeepsTheListsAndDuringADrawNoGrid) {
+  WindowFixture f;
+  auto& w = f.Make();
+  w.txtY.Text = "X";
+  w.txtY.List = {"X"};
+  w.KolkoFunkc = 1;
+  w.Drawing = true;
+  f.surface.ClearOps();
+  w.ClearGraph(false);
+  EXPECT_EQ(w.txtY.Text, "X");
+  EXPECT_EQ(w.KolkoFunkc, 1);
+  ASSERT_EQ(f.surface.Ops().size(), 1u);  // cleared, and no grid while drawing
+  w.Drawing = false;
+  f.surface.ClearOps();
+  w.Clearwith();
+  EXPECT_EQ(f.surface.Ops().size(), 1u);
+  w.Redraw();
+  EXPECT_GT(f.surface.Lines().size(), 2u);
+}
+
+TEST(GraphWindow, FieldsForTheEvaluatorAndThePenRoutines) {
+  WindowFixture f;
+  auto& w = f.Make();
+  w.txtImenilac = "3";
+  w.txtY3 = "1";
+  w.txtY2 = "2";
+  w.lblY3 = "OK";
+  expr::GraphFields& fields = w;
+  EXPECT_EQ(fields.TxtImenilac(), "3");
+  EXPECT_EQ(fields.TxtY3(), "1");
+  EXPECT_EQ(fields.TxtY2(), "2");
+  EXPECT_EQ(fields.LblY3(), "OK");
+  fields.Boje2();
+  EXPECT_EQ(w.Graph_Clr, f.surface.BackColor());
+  fields.Boje3();
+  EXPECT_EQ(w.Graph_Clr, w.lblBoja.BackColor);
+}
+
+TEST(GraphWindow, StatusCaptionByType) {
+  WindowFixture f;
+  auto& w = f.Make();
+  w.txtY.Text = "SinX";
+  EXPECT_EQ(w.StatusCaption(), "Y (X) = SinX");
+  w.optFunk(kParametric);
+  w.txtX.Text = "CosK";
+  EXPECT_EQ(w.StatusCaption(), "Y (K) = SinX ; X (K) = CosK");
+  w.optFunk(kPolar);
+  EXPECT_EQ(w.StatusCaption(), "R (K) = SinX");
+}
+
+TEST(ComboBox, ARepeatedItemStandsOnceAtItsFirstPlace) {
+  ComboBox box;
+  box.AddItemNoDuplicates("a");
+  box.AddItemNoDuplicates("b");
+  box.AddItemNoDuplicates("a");
+  box.AddItemNoDuplicates("A");
+  EXPECT_EQ(box.List, (std::vector<std::string>{"a", "b", "A"}));
+}
+
+}  // namespace
+}  // namespace velmora::graph

@@ -1,0 +1,79 @@
+#pragma once
+
+#include <functional>
+#include <memory>
+#include <string>
+#include <vector>
+
+#include "graph/graphwindow.h"
+#include "platform/memorysettingsstore.h"
+#include "tests/support/recordingmessagebox.h"
+#include "tests/support/recordingsurface.h"
+#include "tests/support/scriptedformula.h"
+#include "tests/support/scriptedinputbox.h"
+
+namespace velmora::testing {
+
+// A window layer that records what the logic asks of it and can act during
+// the event pump of a draw (a Stop click, a second Enter).
+class RecordingHost final : public graph::GraphHost {
+ public:
+  void DoEvents() override {
+    ++pumps;
+    if (onPump) onPump(pumps);
+  }
+  void ProgressChanged() override { ++progressChanges; }
+  void RefreshFrame() override { ++frameRefreshes; }
+  void TypeChosen(int type) override { types.push_back(type); }
+  void FocusFunctionBox() override { ++focuses; }
+  void ShowStatusText(const std::string& text) override { statusTexts.push_back(text); }
+
+  int pumps = 0;
+  int progressChanges = 0;
+  int frameRefreshes = 0;
+  int focuses = 0;
+  std::vector<int> types;
+  std::vector<std::string> statusTexts;
+  std::function<void(int)> onPump;
+};
+
+// Records every pass of the sampling loop.
+class RecordingObserver final : public graph::LoopObserver {
+ public:
+  void Pass(const graph::LoopPass& pass) override { passes.push_back(pass); }
+  std::vector<graph::LoopPass> passes;
+};
+
+// A graph window on a recording surface with in-memory settings, recording
+// message and input boxes, a scripted formula engine (no value unless the
+// test scripts one) and no syntax check.
+struct WindowFixture {
+  explicit WindowFixture(int width = 600, int height = 400, std::vector<std::string> fonts = {})
+      : surface(width, height, std::move(fonts)) {}
+
+  graph::GraphWindow& Make(ScriptedFormula::Script script = nullptr) {
+    if (!script) script = [](std::string_view) -> std::optional<double> { return std::nullopt; };
+    graph::GraphServices services;
+    services.settings = &settings;
+    services.messages = &messages;
+    services.input = &input;
+    auto formula = std::make_unique<ScriptedFormula>(std::move(script));
+    engine = formula.get();
+    services.evaluator1 = std::move(formula);
+    services.host = &host;
+    services.observer = &observer;
+    window = std::make_unique<graph::GraphWindow>(surface, std::move(services));
+    return *window;
+  }
+
+  RecordingSurface surface;
+  platform::MemorySettingsStore settings;
+  RecordingMessageBox messages;
+  ScriptedInputBox input;
+  RecordingHost host;
+  RecordingObserver observer;
+  ScriptedFormula* engine = nullptr;
+  std::unique_ptr<graph::GraphWindow> window;
+};
+
+}  // namespace velmora::testing
