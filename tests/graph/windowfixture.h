@@ -6,7 +6,9 @@
 #include <vector>
 
 #include "graph/graphwindow.h"
+#include "graph/historylog.h"
 #include "platform/memorysettingsstore.h"
+#include "platform/recentlist.h"
 #include "tests/support/recordingmessagebox.h"
 #include "tests/support/recordingsurface.h"
 #include "tests/support/scriptedformula.h"
@@ -51,6 +53,14 @@ struct WindowFixture {
   explicit WindowFixture(int width = 600, int height = 400, std::vector<std::string> fonts = {})
       : surface(width, height, std::move(fonts)) {}
 
+  // Turns on what a full draw uses: the evaluator's check before a draw, a
+  // history file and the recent list.
+  void Full(const std::string& historyPath) {
+    check = true;
+    history = std::make_unique<graph::HistoryLog>(historyPath);
+    recent = std::make_unique<platform::RecentList>(settings, platform::RecentList::kFunctions);
+  }
+
   graph::GraphWindow& Make(ScriptedFormula::Script script = nullptr) {
     if (!script) script = [](std::string_view) -> std::optional<double> { return std::nullopt; };
     graph::GraphServices services;
@@ -62,6 +72,9 @@ struct WindowFixture {
     services.evaluator1 = std::move(formula);
     services.host = &host;
     services.observer = &observer;
+    if (check) services.makeChecker = &graph::MakeEvaluatorChecker;
+    services.history = history.get();
+    services.recent = recent.get();
     window = std::make_unique<graph::GraphWindow>(surface, std::move(services));
     return *window;
   }
@@ -73,6 +86,9 @@ struct WindowFixture {
   RecordingHost host;
   RecordingObserver observer;
   ScriptedFormula* engine = nullptr;
+  bool check = false;
+  std::unique_ptr<graph::HistoryLog> history;
+  std::unique_ptr<platform::RecentList> recent;
   std::unique_ptr<graph::GraphWindow> window;
 };
 

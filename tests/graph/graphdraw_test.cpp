@@ -1,0 +1,480 @@
+// The draw commands of the graph window end to end, on the program's text
+// evaluator standing in for the formula engine.
+#include <gtest/gtest.h>
+
+#include <cmath>
+#include <filesystem>
+#include <string>
+#include <vector>
+
+#include "graph/graphwindow.h"
+#include "tests/graph/windowfixture.h"
+#include "tests/support/evaluatorformula.h"
+
+namespace velmora::graph {
+namespace {
+
+using testing::EvaluatorScript;
+using testing::RecordingSurface;
+using testing::WindowFixture;
+
+constexpr Colour kGraph = 0xC08000;
+
+class DrawTest : public ::testing::Test {
+ protected:
+  void SetUp() override {
+    path_ = std::filesystem::temp_directory_path() /
+            ("velmora-draw-" + std::string(::testing::UnitTest::GetInstance()->current_test_info()->name()) +
+             ".txt");
+    std::filesystem::remove(path_);
+    f.Full(path_.string());
+  }
+  void TearDown() override { std::filesystem::remove(path_); }
+
+  GraphWindow& Make() { return f.Make(EvaluatorScript(f.engine)); }
+  // Draws a typed function as Enter in txtY does.
+  void Enter(const std::string& y, int type = kCartesian, const std::string& x = "K") {
+    f.window->optFunk(type);
+    f.window->txtY.Text = y;
+    if (type == kParametric) f.window->txtX.Text = x;
+    f.surface.ClearOps();
+    f.observer.passes.clear();
+    f.window->DrawFromTxtY();
+  }
+  std::vector<RecordingSurface::Op> Curve() const { return f.surface.LinesIn(f.window->Graph_Clr); }
+  std::string History() const { return f.history->ReadAll(); }
+
+  WindowFixture f;
+  std::filesystem::path path_;
+};
+
+TEST_F(DrawTest, ACartesianDrawFromEndToEnd) {
+  auto& w = Make();
+  Enter("Sin X");
+  EXPECT_EQ(w.txtY.Text, "SinX");  // blanks out of the box itself
+  EXPECT_EQ(w.FuncY, "SINK");
+  EXPECT_EQ(w.FuncX, "K");
+  EXPECT_EQ(f.observer.passes.size(), 601u);
+  const auto curve = Curve();
+  // Every sample is drawn but the first, which moves (and K = 0 if the sum hits it exactly).
+  EXPECT_GE(curve.size(), 599u);
+  EXPECT_LE(curve.size(), 600u);
+  for (const auto& l : curve) EXPECT_EQ(l.colour, kGraph);
+  EXPECT_EQ(w.KolkoFunkc, 1);
+  EXPECT_EQ(w.txtY.List, (std::vector<std::string>{"SinX"}));
+  EXPECT_TRUE(w.cmbR3.List.empty());
+  EXPECT_TRUE(w.Plotted);
+  EXPECT_FALSE(w.Drawing);
+  EXPECT_FALSE(w.lblPerCent.Visible);
+  EXPECT_EQ(w.lblPointtab.Caption, "Value Tables for SinX");
+  EXPECT_EQ(w.lblPointtab.ForeColor, 0u);
+  EXPECT_DOUBLE_EQ(w.Xpoc, -10);
+  EXPECT_NEAR(w.Xkraj, 10, 0.04);
+  // The table runs from Xpoc to Xkraj by 1 with 3 decimals.
+  ASSERT_EQ(w.MS1.Rows(), 21);
+  EXPECT_EQ(w.MS1.TextMatrix(1, 0), "-10");
+  EXPECT_EQ(w.MS1.TextMatrix(1, 1), "0.544");
+  EXPECT_EQ(w.MS1.TextMatrix(1, 2), "-0.839");
+  EXPECT_EQ(f.settings.Query("Recent Functions", "Recent1"), "SinX ; K | Cartesian");
+  EXPECT_EQ(f.host.focuses > 0, true);
+  EXPECT_GT(f.host.frameRefreshes, 0);
+}
+
+TEST_F(DrawTest, TheFirstDrawCreatesTheHistoryWithTheTableRowAsItStood) {
+  auto& w = Make();
+  EXPECT_FALSE(std::filesystem::exists(path_));
+  Enter("SinX");
+  EXPECT_TRUE(std::filesystem::exists(path_));
+  // The table is filled after the record, so the record has the empty row.
+  EXPECT_EQ(History(), "\n Y(X) = sinx\n X = ; Y = \n ____________________________________\n");
+  Enter("X^2");
+  EXPECT_NE(History().find(" Y(X) = x^2\n X = -10; Y = 0.544\n"), std::string::npos);
+  EXPECT_EQ(w.rtb, History());
+}
+
+TEST_F(DrawTest, BadSyntaxShowsTheEvaluatorsMessageAndDrawsNothing) {
+  auto& w = Make();
+  f.surface.ClearOps();
+  w.txtY.Text = "Sin(X";
+  w.CrtajFJU();
+  ASSERT_EQ(f.messages.Boxes().size(), 1u);
+  EXPECT_EQ(f.messages.Boxes()[0].text, "Check bracket placement!");
+  EXPECT_EQ(f.messages.Boxes()[0].title, "Error");
+  EXPECT_EQ(f.messages.Boxes()[0].icon, platform::MsgIcon::Critical);
+  EXPECT_TRUE(f.surface.Ops().empty());
+  EXPECT_EQ(w.KolkoFunkc, 0);
+  EXPECT_FALSE(std::filesystem::exists(path_));
+  EXPECT_FALSE(w.Plotted);
+}
+
+TEST_F(DrawTest, ABadXTextStopsAParametricDraw) {
+  auto& w = Make();
+  f.surface.ClearOps();
+  w.optFunk(kParametric);
+  w.txtY.Text = "SinK";
+  w.txtX.Text = "2*-K";
+  w.CrtajFJU();
+  ASSERT_EQ(f.messages.Boxes().size(), 1u);
+  EXPECT_EQ(f.messages.Boxes()[0].text, "Check syntax!");
+  EXPECT_TRUE(f.surface.Lines().empty());
+}
+
+TEST_F(DrawTest, ASecondEnterDuringADrawChangesNothing) {
+  auto& w = Make();
+  Enter("X/2+SinX");
+  const auto reference = Curve();
+  const std::string recent = *f.settings.Query("Recent Functions", "Recent1");
+  f.host.onPump = [&w](int pumps) {
+    if (pumps == 100) {
+      w.txtY.Text = "CosX";
+      w.CrtajFJU();
+      w.DrawFromTxtY();
+    }
+  };
+  Enter("X/2+SinX");
+  const auto again = Curve();
+  ASSERT_EQ(again.size(), reference.size());
+  for (std::size_t i = 0; i < again.size(); ++i) {
+    EXPECT_DOUBLE_EQ(again[i].x2, reference[i].x2);
+    EXPECT_DOUBLE_EQ(again[i].y2, reference[i].y2);
+  }
+  EXPECT_EQ(*f.settings.Query("Recent Functions", "Recent1"), recent);
+  EXPECT_EQ(w.KolkoFunkc, 2);
+}
+
+TEST_F(DrawTest, ExpAndFixKeepTheirNamesAndXAndKAreOneVariable) {
+  auto& w = Make();
+  Enter("exp(x)+fix(X)+k");
+  EXPECT_EQ(w.FuncY, "EP(K)+STL(K)+K");
+  // Every sample's formula is EP((v))+STL((v))+(v) with one value v.
+  int samples = 0;
+  for (const auto& formula : f.engine->Sent()) {
+    if (formula.rfind("EP(", 0) != 0) continue;
+    ++samples;
+    const auto close = formula.find(')');
+    const std::string v = formula.substr(4, close - 4);
+    EXPECT_EQ(formula, "EP((" + v + "))+STL((" + v + "))+(" + v + ")");
+  }
+  EXPECT_EQ(samples, 601);
+}
+
+TEST_F(DrawTest, ARepeatedFunctionStandsOnceButCountsTwice) {
+  auto& w = Make();
+  Enter("X");
+  Enter("X^2");
+  Enter("X");
+  EXPECT_EQ(w.txtY.List, (std::vector<std::string>{"X", "X^2"}));
+  EXPECT_EQ(w.KolkoFunkc, 3);
+}
+
+TEST_F(DrawTest, EscStopsAtTheNextSampleKeepsTheCurveAndWritesTheHistory) {
+  auto& w = Make();
+  f.host.onPump = [&w](int pumps) {
+    if (pumps == 50) w.Stop();
+  };
+  Enter("X/4");
+  EXPECT_EQ(f.observer.passes.size(), 50u);
+  EXPECT_EQ(Curve().size(), 49u);
+  EXPECT_NE(History().find(" Y(X) = x/4"), std::string::npos);
+  EXPECT_EQ(w.KolkoFunkc, 1);
+  EXPECT_FALSE(w.Drawing);
+  EXPECT_TRUE(w.Plotted);
+  // A new draw starts afresh.
+  f.host.onPump = nullptr;
+  Enter("X/4");
+  EXPECT_EQ(f.observer.passes.size(), 601u);
+}
+
+TEST_F(DrawTest, TheConstantZeroDrawsNothingAndASmallConstantDraws) {
+  Make();
+  Enter("0");
+  EXPECT_TRUE(Curve().empty());
+  Enter("0.001");
+  EXPECT_EQ(Curve().size(), 600u);
+}
+
+TEST_F(DrawTest, HundredIsDrawnAndJustOverIsNot) {
+  auto& w = Make();
+  w.Zoom = 1;
+  w.lblzm.Caption = "1";
+  Enter("100");
+  EXPECT_EQ(Curve().size(), 600u);
+  Enter("100.0001");
+  EXPECT_TRUE(Curve().empty());
+}
+
+TEST_F(DrawTest, OneOverXIsNotJoinedAcrossThePole) {
+  Make();
+  Enter("1/X");
+  for (const auto& l : Curve()) {
+    if (l.style == kInvisible) continue;
+    EXPECT_FALSE((l.x1 < 300 && l.x2 > 300)) << l.x1 << " " << l.x2;
+  }
+}
+
+TEST_F(DrawTest, SqrStartsAtTheFirstPositiveSample) {
+  Make();
+  Enter("Sqr(X)");
+  const auto& p = f.observer.passes;
+  std::size_t first = 0;
+  while (first < p.size() && p[first].action == PassAction::Skip) ++first;
+  ASSERT_LT(first, p.size());
+  EXPECT_GT(p[first].kr, 0);
+  EXPECT_EQ(p[first].action, PassAction::Move);
+  for (std::size_t i = 0; i < first; ++i) EXPECT_LE(p[i].kr, 0);
+}
+
+// ---- Polar ---------------------------------------------------------------------------------
+
+TEST_F(DrawTest, PolarOneIsACircleOfRadiusOne) {
+  auto& w = Make();
+  Enter("1", kPolar);
+  EXPECT_EQ(w.FuncY, "(1)*(SINK)");
+  EXPECT_EQ(w.FuncX, "(1)*(cosK)");
+  const auto curve = Curve();
+  ASSERT_FALSE(curve.empty());
+  for (const auto& l : curve) EXPECT_NEAR(std::hypot(l.x2 - 300, l.y2 - 200), 30, 0.05);
+  // K from -10 to 10 at the default zoom: a little over three turns.
+  EXPECT_DOUBLE_EQ(f.observer.passes.front().kr, -10);
+  EXPECT_NEAR(f.observer.passes.back().kr, 10, 1e-3);
+  EXPECT_EQ(*f.settings.Query("Recent Functions", "Recent1"), "1 ; K | Polar");
+  EXPECT_NE(History().find(" R(K) = 1\n"), std::string::npos);
+  EXPECT_EQ(w.MS1.Rows(), 14);
+  EXPECT_EQ(w.MS1.TextMatrix(0, 0), "\xC3\xB8");
+  EXPECT_EQ(w.txtY.List, (std::vector<std::string>{"1"}));
+  EXPECT_TRUE(w.cmbR3.List.empty());
+}
+
+TEST_F(DrawTest, PolarNeverTakesXpoc) {
+  auto& w = Make();
+  w.Xpoc = 42;
+  Enter("2", kPolar);
+  EXPECT_EQ(w.Xpoc, 42);
+}
+
+TEST_F(DrawTest, SpiralIsCutAtTheSurfacesKLimits) {
+  auto& w = Make();
+  Enter("K", kPolar);
+  EXPECT_DOUBLE_EQ(f.observer.passes.front().kr, -10);
+  // Moving right shifts the K range with the view.
+  f.input.Answer(std::string("2"));
+  w.mnuright();
+  Enter("K", kPolar);
+  EXPECT_DOUBLE_EQ(f.observer.passes.front().kr, -12);
+  EXPECT_NEAR(f.observer.passes.back().kr, 8, 2e-3);
+  // Zooming in shortens it.
+  w.mnuCenter();
+  w.mnuzoomin();
+  Enter("K", kPolar);
+  EXPECT_DOUBLE_EQ(f.observer.passes.front().kr, -6);
+}
+
+TEST_F(DrawTest, PolarZeroDrawsNothing) {
+  Make();
+  Enter("0*K", kPolar);
+  EXPECT_TRUE(Curve().empty());
+}
+
+// ---- Parametric --------------------------------------------------------------------------------
+
+TEST_F(DrawTest, SinCosIsTheUnitCircle) {
+  auto& w = Make();
+  Enter("SinK", kParametric, "CosK");
+  const auto curve = Curve();
+  ASSERT_FALSE(curve.empty());
+  for (const auto& l : curve) EXPECT_NEAR(std::hypot(l.x2 - 300, l.y2 - 200), 30, 0.05);
+  EXPECT_NE(History().find(" Y(K) = SinK\n X = CosK\n"), std::string::npos);
+  EXPECT_EQ(*f.settings.Query("Recent Functions", "Recent1"), "SinK ; CosK | Parametric");
+  EXPECT_EQ(w.txtX.List, (std::vector<std::string>{"CosK"}));
+  EXPECT_EQ(w.cmbR3.List, (std::vector<std::string>{"SinK"}));
+  // The table: K from -9 to 9.
+  ASSERT_EQ(w.MS1.Rows(), 20);
+  EXPECT_EQ(w.MS1.TabLines()[0], "K\tX (K)\tY (K)");
+  EXPECT_EQ(w.MS1.TextMatrix(1, 0), "-9");
+  EXPECT_EQ(w.MS1.TextMatrix(19, 0), "9");
+}
+
+// The trial before a draw refuses a bare "Y" ("Check syntax!"); the replay,
+// which skips the trial, draws X (K) = Y as the diagonal over the values of Y (K).
+TEST_F(DrawTest, XOfKEqualToYPlotsTheDiagonal) {
+  auto& w = Make();
+  Enter("SinK*3", kParametric, "Y");
+  ASSERT_EQ(f.messages.Boxes().size(), 1u);
+  EXPECT_EQ(f.messages.Boxes()[0].text, "Check syntax!");
+  EXPECT_TRUE(Curve().empty());
+  w.CrtajFJUAuto();
+  const auto curve = Curve();
+  ASSERT_FALSE(curve.empty());
+  for (const auto& l : curve) EXPECT_NEAR(l.x2 - 300, 200 - l.y2, 0.031);
+}
+
+TEST_F(DrawTest, ParametricWithXAsKDrawsAsCartesianButIsRememberedAsParametric) {
+  auto& w = Make();
+  Enter("X/2", kCartesian);
+  const auto cartesian = Curve();
+  w.Xpoc = 77;
+  Enter("K/2", kParametric, "K");
+  const auto parametric = Curve();
+  ASSERT_EQ(parametric.size(), cartesian.size());
+  for (std::size_t i = 0; i < parametric.size(); ++i) EXPECT_DOUBLE_EQ(parametric[i].y2, cartesian[i].y2);
+  EXPECT_EQ(w.Xpoc, 77);  // Xpoc is for the Cartesian type only
+  EXPECT_EQ(*f.settings.Query("Recent Functions", "Recent1"), "K/2 ; K | Parametric");
+  EXPECT_NE(History().find(" Y(K) = K/2\n X = K\n"), std::string::npos);
+  EXPECT_EQ(w.MS1.TextMatrix(0, 0), "K");
+}
+
+// ---- Replay and the list ------------------------------------------------------------------------
+
+TEST_F(DrawTest, RedrawFuncReplaysTheListOldestFirstAndWritesNothing) {
+  auto& w = Make();
+  Enter("X/2");
+  Enter("SinK", kParametric, "CosK");
+  Enter("1+CosK", kPolar);
+  const std::string history = History();
+  const std::string recent = *f.settings.Query("Recent Functions", "Recent1");
+  w.Clearwith();
+  w.DrawLines();
+  f.surface.ClearOps();
+  std::vector<int> types;
+  f.host.types.clear();
+  w.RedrawFunc();
+  EXPECT_EQ(f.host.types, (std::vector<int>{kCartesian, kParametric, kPolar}));
+  EXPECT_EQ(w.KolkoFunkc, 3);
+  EXPECT_EQ(w.txtY.List.size(), 3u);
+  EXPECT_EQ(History(), history);
+  EXPECT_EQ(*f.settings.Query("Recent Functions", "Recent1"), recent);
+  EXPECT_GT(f.surface.LinesIn(kGraph).size(), 1000u);
+  EXPECT_EQ(w.txtX.Text, "K");  // the polar one came last
+  // A polar function without K replays as a Cartesian one: the list knows no type.
+  Enter("1", kPolar);
+  f.host.types.clear();
+  w.RedrawFunc();
+  EXPECT_EQ(f.host.types.back(), kCartesian);
+}
+
+TEST_F(DrawTest, WithAutoredOffAZoomLeavesAnEmptyPaper) {
+  auto& w = Make();
+  Enter("X/2");
+  f.settings.Store("Grid", "Autored", "0");
+  f.surface.ClearOps();
+  w.mnuzoomin();
+  w.RedrawFunc();  // as the frame does after a zoom
+  EXPECT_TRUE(f.surface.LinesIn(kGraph).empty());
+  EXPECT_EQ(w.KolkoFunkc, 0);
+}
+
+TEST_F(DrawTest, ClickInTheListChoosesTheTypeByKAndCmbR3) {
+  auto& w = Make();
+  Enter("SinK", kParametric, "CosK");
+  Enter("X^2");
+  f.settings.Store("Grid", "Autored", "0");  // only the table is refilled
+  w.txtY.Text = "SinK";
+  w.txtY_Click();
+  EXPECT_EQ(w.optFunkcije, kParametric);
+  EXPECT_EQ(w.txtX.Text, "CosK");
+  EXPECT_EQ(w.MS1.TextMatrix(0, 0), "K");
+  w.txtY.Text = "2*K";
+  w.txtY_Click();
+  EXPECT_EQ(w.optFunkcije, kPolar);
+  EXPECT_EQ(w.MS1.Cols(), 4);
+  w.txtY.Text = "X^2";
+  w.txtY_Click();
+  EXPECT_EQ(w.optFunkcije, kCartesian);
+  EXPECT_EQ(w.MS1.TextMatrix(0, 0), "X");
+  EXPECT_EQ(w.lblPointtab.ForeColor, 0u);
+}
+
+TEST_F(DrawTest, TheTableRefusesKOutsideTheCartesianType) {
+  auto& w = Make();
+  w.optFunk(kParametric);
+  w.txtY.Text = "SinK";
+  w.FillValueTable(-1, 1);
+  ASSERT_EQ(f.messages.Boxes().size(), 1u);
+  EXPECT_EQ(f.messages.Boxes()[0].title, "Error Calculating Values");
+  EXPECT_EQ(w.MS1.Rows(), 2);
+}
+
+TEST_F(DrawTest, RandomColoursGiveEachDrawItsOwnColour) {
+  auto& w = Make();
+  f.settings.Store("Grid", "Rnd", "1");
+  Enter("X/2");
+  const Colour first = w.Graph_Clr;
+  EXPECT_EQ(w.lblPointtab.ForeColor, first);
+  EXPECT_EQ(f.surface.LinesIn(first).size(), 600u);
+  Enter("X/3");
+  EXPECT_NE(w.Graph_Clr, first);
+  EXPECT_EQ(w.lblBoja.BackColor, kGraph);  // the label keeps the set colour
+}
+
+TEST_F(DrawTest, LineWidthInputBox) {
+  auto& w = Make();
+  f.input.Answer(std::string("abc"));
+  f.input.Answer(std::string("0"));
+  f.input.Answer(std::string("1.6"));
+  w.mnuPlotWidth();
+  ASSERT_EQ(f.input.AskedBoxes().size(), 3u);
+  EXPECT_EQ(f.input.AskedBoxes()[0].title, "Graph-Line Width");
+  EXPECT_EQ(f.input.AskedBoxes()[0].prompt, "Enter value for Graph-Line Width (e.g. 1, 1.6 ...).");
+  EXPECT_EQ(f.input.AskedBoxes()[2].defaultText, "1");
+  ASSERT_EQ(f.messages.Boxes().size(), 2u);
+  EXPECT_EQ(f.messages.Boxes()[0].text, "Invalid input: Line width = abc.");
+  EXPECT_EQ(f.messages.Boxes()[1].text, "Invalid input: Line width = 0.");
+  EXPECT_EQ(w.GraphLineWidth, 1.6);
+  Enter("X/2");
+  EXPECT_EQ(Curve().front().width, 2);
+  f.input.Answer(std::string());
+  w.mnuPlotWidth();  // empty cancels
+  EXPECT_EQ(w.GraphLineWidth, 1.6);
+}
+
+TEST_F(DrawTest, ANonPositiveWidthBecomesOneBeforeADraw) {
+  auto& w = Make();
+  w.GraphLineWidth = -3;
+  Enter("X/2");
+  EXPECT_EQ(w.GraphLineWidth, 1);
+}
+
+// ---- Tangent and normal records -----------------------------------------------------------------------
+
+TEST_F(DrawTest, TangentRecordFromTheRequestFields) {
+  auto& w = Make();
+  w.Tngenta = true;
+  w.fjaT = "X^2";
+  w.TngentaX = "1";
+  w.Slopka = "2";
+  Enter("2*x-1");
+  EXPECT_NE(History().find("\n Tangent for Y = X^2\n X = 1; Y = 1\n Slope: 2\n Tangent Line: 2*x-1\n"),
+            std::string::npos)
+      << History();
+  EXPECT_FALSE(w.Tngenta);  // cleared at the end of the draw
+}
+
+TEST_F(DrawTest, NormalRecord) {
+  auto& w = Make();
+  w.Normalka = true;
+  w.fjaT = "X^2";
+  w.TngentaX = "2";
+  w.Slopka = "-0.25";
+  Enter("-0.25*x + 4.5");
+  EXPECT_NE(
+      History().find("\n Normal for Y = X^2\n X = 2; Y = 4\n Slope: -0.25\n Normal Line: -0.25*x+4.5\n"),
+      std::string::npos)
+      << History();
+  EXPECT_FALSE(w.Normalka);
+}
+
+TEST_F(DrawTest, ParametricTangentRecord) {
+  auto& w = Make();
+  w.TngentaP = true;
+  w.fja1P = "SinK";
+  w.fja2P = "CosK";
+  w.TngentaXP = "1";
+  Enter("-0.6421*x+1.1884");
+  EXPECT_NE(History().find("\n Tangent for Parametric Function: \n Y = SinK\n X = CosK\n K = 1\n"
+                           " X = 0.5403; Y = 0.8415\n Tangent Line: Y = -0.6421*x+1.1884; X = K\n"),
+            std::string::npos)
+      << History();
+}
+
+}  // namespace
+}  // namespace velmora::graph
