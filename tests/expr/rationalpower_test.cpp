@@ -98,7 +98,7 @@ TEST_P(RationalPowerTest, Evaluate) {
 INSTANTIATE_TEST_SUITE_P(RowByRow, RationalPowerTest,
                          ::testing::Values(PowerCase{"8^(1/3)", "3", "1", "1", 0, 2, "row 1"},
                                            PowerCase{"(-8)^(1/3)", "3", "1", "1", 0, -2,
-                                                     "row 2: the spec's example, Q true, digits differ"},
+                                                     "row 2: the keypad's cube root of -8, Q true, digits differ"},
                                            PowerCase{"(-8)^(1/3)", "3", "2", "1", 0, 2, "row 3"},
                                            PowerCase{"8^(1/3)", "3", "2", "1", 0, 2, "row 4"},
                                            PowerCase{"(-8)^(5/3)", "5", "2", "1", 0, 32, "row 5"},
