@@ -7,6 +7,7 @@ std::string FaultDescription(int number) {
     case Fault::kInvalidCall: return "Invalid procedure call or argument";
     case Fault::kOverflow: return "Overflow";
     case Fault::kOutOfMemory: return "Out of memory";
+    case Fault::kSubscriptOutOfRange: return "Subscript out of range";
     case Fault::kDivisionByZero: return "Division by zero";
     case Fault::kTypeMismatch: return "Type mismatch";
     case Fault::kOutOfStackSpace: return "Out of stack space";

@@ -15,6 +15,7 @@ class Fault : public std::exception {
   static constexpr int kInvalidCall = 5;
   static constexpr int kOverflow = 6;
   static constexpr int kOutOfMemory = 7;
+  static constexpr int kSubscriptOutOfRange = 9;
   static constexpr int kDivisionByZero = 11;
   static constexpr int kTypeMismatch = 13;
   // Recursion past the depth the program allows (deeply nested brackets).
