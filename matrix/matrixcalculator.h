@@ -1,0 +1,80 @@
+#pragma once
+
+#include <cstdint>
+#include <string>
+
+#include "complex/complexnumber.h"
+#include "matrix/complexmatrix.h"
+#include "matrix/grid.h"
+#include "matrix/gridroutines.h"
+#include "matrix/htmlreport.h"
+#include "matrix/matrixcontext.h"
+#include "platform/messagebox.h"
+
+namespace velmora::matrix {
+
+// The Matrix Calculator without its window: the matrices, the grids and the
+// boxes the calculations read and fill, and the steps of a calculation. The
+// window binds its controls to these members; velmora-cli drives it directly.
+class MatrixCalculator {
+ public:
+  // The tabs of the grids, by index.
+  enum Tab { kTabA = 0, kTabB = 1, kTabSolution = 2, kTabInverse = 3, kTabSwap = 4 };
+
+  explicit MatrixCalculator(platform::MessageBox& messages);
+
+  // The sizes are taken from the operand grids as they stand (the route
+  // after a file is opened or cells are pasted), the scalar from the second
+  // entry box, and the sizes are checked for the operation. False after a
+  // message.
+  bool EnterValues();
+
+  // The calculation of the current operation on the grid contents: empty
+  // cells filled with zeros when asked, cells moved into the matrices, the
+  // operation run and its results put in the result grids and boxes. False
+  // after a message, and always after a singular matrix.
+  bool Go2();
+
+  // Tools on the grid of a tab. Each shows its message and returns false
+  // when it cannot run.
+  bool Adjoint(int tab);                 // into grdSwap
+  bool Trace(int tab);                   // a message box with the trace
+  bool CharacteristicEquation(int tab);  // into txtEq
+
+  // What "Publish as HTML..." reports for the current operation.
+  MatrixReport Report() const;
+
+  MatrixContext Context;
+  GridRoutines Routines;
+  std::int16_t Operation = kAdd;
+  ComplexMatrix MatrixA;
+  ComplexMatrix MatrixB;
+  ComplexMatrix MatrixS;
+  ComplexMatrix MatrixI;
+  complex::ComplexNumber Scalar;
+  Grid grdGrid1{2, 2};
+  Grid grdGrid2{2, 2};
+  Grid grdSolution;
+  Grid grdInverse;
+  Grid grdSwap;
+  Grid grdCopy;
+  std::string txtPrecision = "3";
+  std::string txtEntry2;
+  std::string txtDet;
+  std::string txtEq;
+  std::string SwapCaption;  // the caption of the [T] tab
+  bool chNule = false;      // "Add zeros in empty cells"
+
+ private:
+  bool SizeFromGrid(ComplexMatrix& m, const std::string& name, const Grid& grid);
+  bool DeterminantInverse(const Grid& grid, ComplexMatrix& m, const std::string& name);
+  bool Guarded(const char* title, bool (MatrixCalculator::*step)(int), int tab);
+  bool AdjointStep(int tab);
+  bool TraceStep(int tab);
+  bool EquationStep(int tab);
+  bool ShowResult(const ComplexMatrix& m, Grid& grid);
+
+  platform::MessageBox& messages_;
+};
+
+}  // namespace velmora::matrix
