@@ -1,10 +1,12 @@
 #include <istream>
 
+#include "cli/cnumbercommand.h"
 #include "cli/command.h"
 #include "cli/complexcommand.h"
 #include "cli/enginecommand.h"
 #include "cli/evaluatorcommand.h"
 #include "cli/geocommand.h"
+#include "cli/matrixcommand.h"
 #include "cli/normalisecommand.h"
 #include "cli/numbercommand.h"
 
@@ -30,6 +32,12 @@ const std::vector<Command>& Commands() {
       {"base", "base INDEX VALUE: a result in base 10, 2, 16 or 8 (INDEX 0, 1, 2, 3)", RunBase},
       {"engine", "engine: formulas to the formula engine, one a line; prints ok, the result or fault",
        RunEngine},
+      {"cnumber",
+       "cnumber: complex numbers of the matrix side, one line each (RECT/POLAR text or an operation)",
+       RunCNumber},
+      {"matrix",
+       "matrix OP A.mcf [B.mcf] [--scalar T] [--precision N] [--zeros] [--html F]: one matrix calculation",
+       RunMatrix},
   };
   return table;
 }
