@@ -52,9 +52,15 @@ std::string WithoutBlanks(const std::string& s) {
   return out;
 }
 
+// Pi as arctangent(1) * 4, taken once rather than for every number made.
+double PiValue() {
+  static const double pi = std::atan(1.0) * 4;
+  return pi;
+}
+
 }  // namespace
 
-ComplexNumber::ComplexNumber() : pi_(std::atan(1.0) * 4) {}
+ComplexNumber::ComplexNumber() : pi_(PiValue()) {}
 
 void ComplexNumber::SetImaginary(double value) {
   imaginary_ = value;
@@ -69,7 +75,7 @@ void ComplexNumber::SetModulus(double value) {
   parsedClean_ = false;
 }
 void ComplexNumber::SetAngle(double value) {
-  angle_ = value;
+  StoreAngle(value);
   parsedClean_ = false;
 }
 
@@ -122,9 +128,9 @@ void ComplexNumber::Power(double n) {
   try {
     // One statement after the other, so the first fault met is the one kept.
     double power = Pow(modulus_, n);
-    real_ = Mul(power, Checked(std::cos(Mul(angle_, n))));
+    real_ = Mul(power, Checked(std::cos(Mul(Angle(), n))));
     power = Pow(modulus_, n);
-    imaginary_ = Mul(power, Checked(std::sin(Mul(angle_, n))));
+    imaginary_ = Mul(power, Checked(std::sin(Mul(Angle(), n))));
     RectangularToPolarCore();
   } catch (const Fault& f) {
     fault = f.Number();
@@ -142,7 +148,7 @@ void ComplexNumber::Roots(double n, std::int32_t lngPlaces) {
     if (last >= kMaxRoots) throw Fault(Fault::kOutOfMemory);
     rootTexts_.assign(static_cast<std::size_t>(last) + 1, std::string());
     for (std::int32_t k = 0; k <= last; ++k) {
-      const double t = Quot(Sum(Mul(Mul(2, k), pi_), angle_), n);
+      const double t = Quot(Sum(Mul(Mul(2, k), pi_), Angle()), n);
       const double r = Pow(modulus_, Quot(1, n));
       const double re = Mul(r, std::cos(t));
       const double im = Mul(r, std::sin(t));
@@ -227,16 +233,16 @@ void ComplexNumber::FormatRectangular(std::int32_t lngPlaces) {
     RecordFault(Fault::kOverflow);
     return;
   }
-  rectText_ = PrintedText::Print(real_, imaginary_, places, false);
-  conjText_ = PrintedText::Print(real_, imaginary_, places, true);
+  rectText_.SetPrint(real_, imaginary_, places, false);
+  conjText_.SetPrint(real_, imaginary_, places, true);
 }
 
 void ComplexNumber::FormatPolar(std::int32_t lngPlaces) {
   const std::int32_t places = Places(lngPlaces);
   try {
     const std::string m = ShortText(expr::RoundTo(Checked(modulus_), places));
-    const std::string a = ShortText(expr::RoundTo(Checked(angle_), places));
-    const std::string g = ShortText(expr::RoundTo(Quot(Mul(angle_, 180), pi_), places));
+    const std::string a = ShortText(expr::RoundTo(Checked(Angle()), places));
+    const std::string g = ShortText(expr::RoundTo(Quot(Mul(Angle(), 180), pi_), places));
     polarText_ = m + " / " + a + " rad" + "\r\n" + m + " / " + g + " deg";
   } catch (const Fault& f) {
     RecordFault(f.Number());
@@ -352,11 +358,11 @@ void ComplexNumber::ParsePolar() {
     }
     const std::string angleText = s.substr(separator, length - separator);
     if (IsNumericText(angleText)) {
-      angle_ = expr::TextToNumber(angleText);
+      StoreAngle(expr::TextToNumber(angleText));
     } else {
       SetParseFailure(kNotNumeric, kBadPolar);
     }
-    if (degrees) angle_ = Quot(Mul(pi_, angle_), 180);
+    if (degrees) StoreAngle(Quot(Mul(pi_, Angle()), 180));
     PolarToRectangularCore();
   } catch (const Fault& f) {
     RecordFault(f.Number());
@@ -373,8 +379,8 @@ void ComplexNumber::PolarToRectangular() {
 }
 
 void ComplexNumber::PolarToRectangularCore() {
-  real_ = Mul(Checked(std::cos(angle_)), modulus_);
-  imaginary_ = Mul(Checked(std::sin(angle_)), modulus_);
+  real_ = Mul(Checked(std::cos(Angle())), modulus_);
+  imaginary_ = Mul(Checked(std::sin(Angle())), modulus_);
   conjImaginary_ = -imaginary_;
 }
 
@@ -391,22 +397,45 @@ void ComplexNumber::RectangularToPolarCore() {
   const double x = real_;
   const double y = imaginary_;
   modulus_ = std::sqrt(Sum(Mul(x, x), Mul(y, y)));
-  if (x != 0) {
-    angle_ = std::atan(Quot(y, x));
-  } else if (y > 0) {
-    angle_ = pi_ / 2;
-  } else if (y < 0) {
-    angle_ = -pi_ / 2;
-  } else {
-    angle_ = std::atan(1.0);  // the angle of zero is a quarter of pi
-  }
+  // The quadrant step: nothing for x and y not negative, pi for x negative
+  // (y of either sign), 2 pi for y negative and x not negative.
+  int turn = 0;
   if (y >= 0 && x >= 0) {
-    // first quadrant: nothing more
+    turn = 0;
   } else if (x < 0) {
-    angle_ = angle_ + pi_;
+    turn = 1;
   } else if (y < 0 && x >= 0) {
-    angle_ = angle_ + 2 * pi_;
+    turn = 2;
   }
+  if (x != 0) {
+    angleRatio_ = Quot(y, x);
+    angleTurn_ = turn;
+    anglePending_ = true;
+    return;
+  }
+  double angle = 0;
+  if (y > 0) {
+    angle = pi_ / 2;
+  } else if (y < 0) {
+    angle = -pi_ / 2;
+  } else {
+    angle = std::atan(1.0);  // the angle of zero is a quarter of pi
+  }
+  if (turn == 1) angle = angle + pi_;
+  if (turn == 2) angle = angle + 2 * pi_;
+  StoreAngle(angle);
+}
+
+void ComplexNumber::StoreAngle(double value) {
+  angle_ = value;
+  anglePending_ = false;
+}
+
+void ComplexNumber::SettleAngle() const {
+  angle_ = std::atan(angleRatio_);
+  if (angleTurn_ == 1) angle_ = angle_ + pi_;
+  if (angleTurn_ == 2) angle_ = angle_ + 2 * pi_;
+  anglePending_ = false;
 }
 
 bool ComplexNumber::IsLetter(int code) { return (code >= 65 && code <= 90) || (code >= 97 && code <= 122); }
@@ -423,6 +452,9 @@ void ComplexNumber::CopyRectText(const ComplexNumber& other) {
     conjImaginary_ = other.conjImaginary_;
     modulus_ = other.modulus_;
     angle_ = other.angle_;
+    anglePending_ = other.anglePending_;
+    angleRatio_ = other.angleRatio_;
+    angleTurn_ = other.angleTurn_;
     parsedClean_ = true;
     return;
   }

@@ -34,7 +34,10 @@ class ComplexNumber {
   void SetReal(double value);
   double Modulus() const { return modulus_; }
   void SetModulus(double value);
-  double Angle() const { return angle_; }
+  double Angle() const {
+    if (anglePending_) SettleAngle();
+    return angle_;
+  }
   void SetAngle(double value);
 
   // Minus the imaginary part, as of the last parse, print or division.
@@ -93,6 +96,8 @@ class ComplexNumber {
   void RectangularToPolarCore();
   void PolarToRectangularCore();
   std::int32_t Places(std::int32_t lngPlaces) const;
+  void StoreAngle(double value);
+  void SettleAngle() const;
 
   PrintedText rectText_;
   std::string polarText_;
@@ -101,7 +106,13 @@ class ComplexNumber {
   double imaginary_ = 0;
   double conjImaginary_ = 0;
   double modulus_ = 0;
-  double angle_ = 0;
+  // The angle's arctangent is taken when the angle is first read: most
+  // numbers of an elimination are never asked for theirs. Until then the
+  // ratio y / x and the quadrant's turn (0, 1 or 2 times pi) stand for it.
+  mutable double angle_ = 0;
+  mutable bool anglePending_ = false;
+  double angleRatio_ = 0;
+  int angleTurn_ = 0;
   double pi_;
   std::int32_t precision_ = 15;
   std::vector<std::string> rootTexts_;

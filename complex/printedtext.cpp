@@ -11,14 +11,20 @@ namespace velmora::complex {
 
 PrintedText PrintedText::Print(double re, double im, int places, bool conjugate) {
   PrintedText t;
-  t.built_ = false;
-  t.printed_ = true;
-  t.conjugate_ = conjugate;
-  t.places_ = places;
-  t.re_ = re;
-  t.im_ = im;
-  if (!PrintShortcuts()) t.Build();
+  t.SetPrint(re, im, places, conjugate);
   return t;
+}
+
+void PrintedText::SetPrint(double re, double im, int places, bool conjugate) {
+  text_.clear();
+  built_ = false;
+  printed_ = true;
+  conjugate_ = conjugate;
+  squeezed_ = false;
+  places_ = places;
+  re_ = re;
+  im_ = im;
+  if (!PrintShortcuts()) Build();
 }
 
 void PrintedText::Build() const {

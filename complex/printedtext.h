@@ -20,6 +20,8 @@ class PrintedText {
   // when the imaginary part rounds to nothing. With `conjugate` the sign
   // before the j is the other one.
   static PrintedText Print(double re, double im, int places, bool conjugate);
+  // The same print, made in place.
+  void SetPrint(double re, double im, int places, bool conjugate);
 
   const std::string& Text() const;
   bool Empty() const;

@@ -1,6 +1,7 @@
 #include "complex/printshortcut.h"
 
 #include <array>
+#include <bit>
 #include <cmath>
 #include <cstdint>
 
@@ -8,8 +9,6 @@
 
 namespace velmora::complex {
 namespace {
-
-bool gShortcuts = true;
 
 // Powers of ten that are exact in a double (10^0 .. 10^18) and as integers.
 constexpr std::array<double, 19> kExactPow10 = {1e0,  1e1,  1e2,  1e3,  1e4,  1e5,  1e6,  1e7,  1e8, 1e9,
@@ -51,7 +50,10 @@ std::uint64_t ScaledRound(double ax, int q) {
   const double scale = kExactPow10[static_cast<std::size_t>(q)];
   const double p = ax * scale;
   const double err = std::fma(ax, scale, -p);
-  double n = std::nearbyint(p);
+  // Adding and taking away 2^52 rounds a value below 2^52 to an integer,
+  // ties to even, in the default rounding mode, without a library call.
+  constexpr double kRound = 4503599627370496.0;
+  double n = (p + kRound) - kRound;
   const double f = p - n;
   if (f == 0.5 && err > 0) n += 1;
   if (f == -0.5 && err < 0) n -= 1;
@@ -61,12 +63,18 @@ std::uint64_t ScaledRound(double ax, int q) {
 }  // namespace
 
 double RoundPlaces(double x, int places) {
-  if (!gShortcuts || places < 0 || places > 15 || !std::isfinite(x)) return expr::RoundTo(x, places);
+  if (!detail::gPrintShortcuts || places < 0 || places > 15 || !std::isfinite(x))
+    return expr::RoundTo(x, places);
   if (x == 0.0) return 0.0;
   const double ax = std::fabs(x);
   if (!(ax >= kPlainLow && ax < kPlainHigh)) return expr::RoundTo(x, places);
-  int decade = 0;  // index into kDecade, the exponent plus 4
-  while (decade + 1 < static_cast<int>(kDecade.size()) && ax >= kDecade[static_cast<std::size_t>(decade + 1)])
+  // The binary exponent puts the decimal one within a step: ax lies in
+  // [2^e, 2^(e+1)), so its decimal exponent is floor(e log10 2) or one more;
+  // 78913 / 2^18 is log10 2 closely enough for any exponent of a double.
+  const int e = static_cast<int>((std::bit_cast<std::uint64_t>(ax) >> 52) & 0x7FF) - 1023;
+  int decade = ((e * 78913) >> 18) + 4;  // index into kDecade
+  if (decade < 0) decade = 0;
+  if (decade + 1 < static_cast<int>(kDecade.size()) && ax >= kDecade[static_cast<std::size_t>(decade + 1)])
     ++decade;
   // The 15 significant digits as an integer mantissa m with q decimals.
   int q = 14 - (decade - 4);
@@ -97,7 +105,10 @@ bool PrintsPlain(double rounded) {
   return a == 0.0 || (a >= kPlainLow && a < kPlainHigh);
 }
 
-void SetPrintShortcuts(bool enabled) { gShortcuts = enabled; }
-bool PrintShortcuts() { return gShortcuts; }
+namespace detail {
+bool gPrintShortcuts = true;
+}  // namespace detail
+
+void SetPrintShortcuts(bool enabled) { detail::gPrintShortcuts = enabled; }
 
 }  // namespace velmora::complex

@@ -22,7 +22,11 @@ double RoundPlaces(double x, int places);
 // text reads back as the same number through the rectangular parser.
 bool PrintsPlain(double rounded);
 
+namespace detail {
+extern bool gPrintShortcuts;
+}  // namespace detail
+
 void SetPrintShortcuts(bool enabled);
-bool PrintShortcuts();
+inline bool PrintShortcuts() { return detail::gPrintShortcuts; }
 
 }  // namespace velmora::complex
