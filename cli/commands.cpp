@@ -9,6 +9,7 @@
 #include "cli/matrixcommand.h"
 #include "cli/normalisecommand.h"
 #include "cli/numbercommand.h"
+#include "cli/plotcommand.h"
 
 namespace velmora::cli {
 
@@ -38,6 +39,11 @@ const std::vector<Command>& Commands() {
       {"matrix",
        "matrix OP A.mcf [B.mcf] [--scalar T] [--precision N] [--zeros] [--html F]: one matrix calculation",
        RunMatrix},
+      {"plot",
+       "plot [--type T] --y TEXT [--x TEXT] [--zoom Z] [--right N] ... [--png F] [--trace] [--table] "
+       "[--status]: "
+       "a headless graph window",
+       RunPlot},
   };
   return table;
 }

@@ -1,0 +1,251 @@
+// velmora-cli plot: the headless graph window, run as a program.
+#include <gtest/gtest.h>
+
+#include <cmath>
+#include <cstdio>
+#include <filesystem>
+#include <fstream>
+#include <string>
+#include <vector>
+
+namespace {
+
+namespace fs = std::filesystem;
+
+struct PlotRun {
+  std::string out;  // standard output and error together
+  int status = -1;
+};
+
+std::string Quote(const std::string& word) {
+  std::string q = "'";
+  for (const char c : word) q += c == '\'' ? std::string("'\\''") : std::string(1, c);
+  return q + "'";
+}
+
+std::vector<std::string> Lines(const std::string& text) {
+  std::vector<std::string> lines;
+  std::size_t start = 0;
+  while (start < text.size()) {
+    const auto end = text.find('\n', start);
+    lines.push_back(text.substr(start, end - start));
+    if (end == std::string::npos) break;
+    start = end + 1;
+  }
+  return lines;
+}
+
+std::vector<std::string> Split(const std::string& line) {
+  std::vector<std::string> cells;
+  std::size_t start = 0;
+  for (;;) {
+    const auto tab = line.find('\t', start);
+    cells.push_back(line.substr(start, tab - start));
+    if (tab == std::string::npos) return cells;
+    start = tab + 1;
+  }
+}
+
+std::string ReadFile(const fs::path& path) {
+  std::ifstream in(path, std::ios::binary);
+  std::string all;
+  char c;
+  while (in.get(c)) all += c;
+  return all;
+}
+
+class PlotCli : public ::testing::Test {
+ protected:
+  void SetUp() override {
+    dir_ = fs::temp_directory_path() /
+           ("velmora-plot-" + std::string(::testing::UnitTest::GetInstance()->current_test_info()->name()));
+    fs::remove_all(dir_);
+    fs::create_directories(dir_);
+  }
+  void TearDown() override { fs::remove_all(dir_); }
+
+  // Runs plot with a settings file and a history file in the test's folder;
+  // the user's folders point there too, so no run touches the real ones.
+  PlotRun Plot(std::vector<std::string> args, bool ownFiles = true) {
+    std::string command =
+        "HOME=" + Quote(dir_.string()) + " XDG_CONFIG_HOME=" + Quote((dir_ / "config").string()) +
+        " XDG_DATA_HOME=" + Quote((dir_ / "data").string()) + " " + Quote(VELMORA_CLI) + " plot";
+    if (ownFiles) {
+      command += " --settings " + Quote(Settings().string()) + " --history " + Quote(History().string());
+    }
+    for (const auto& a : args) command += " " + Quote(a);
+    command += " 2>&1 </dev/null";
+    PlotRun run;
+    if (FILE* p = popen(command.c_str(), "r")) {
+      char buf[65536];
+      std::size_t n = 0;
+      while ((n = fread(buf, 1, sizeof buf, p)) > 0) run.out.append(buf, n);
+      run.status = pclose(p);
+    }
+    return run;
+  }
+  fs::path Settings() const { return dir_ / "settings.ini"; }
+  fs::path History() const { return dir_ / "GraphLog.txt"; }
+  void SetGrid(const std::string& lines) { std::ofstream(Settings()) << "[Grid]\n" << lines; }
+
+  fs::path dir_;
+};
+
+TEST_F(PlotCli, TraceHasOneLinePerPassWithSevenColumns) {
+  const PlotRun run = Plot({"--y", "SinX", "--trace"});
+  ASSERT_EQ(run.status, 0) << run.out;
+  const auto lines = Lines(run.out);
+  ASSERT_EQ(lines.size(), 601u);
+  EXPECT_EQ(lines[0], "-10\t0.54402111088937\t-10\t0\t183.679366673319\tmove\t0");
+  EXPECT_EQ(Split(lines[1])[5], "line");
+  for (const auto& line : lines) EXPECT_EQ(Split(line).size(), 7u) << line;
+}
+
+TEST_F(PlotCli, SamplesFollowTheWidth) {
+  const PlotRun run = Plot({"--width", "100", "--height", "80", "--y", "X", "--trace"});
+  EXPECT_EQ(Lines(run.out).size(), 101u);
+  EXPECT_EQ(Split(Lines(run.out)[0])[0], "-1.667");  // -50 / 30 cut toward minus infinity
+}
+
+TEST_F(PlotCli, SkippedSamplesAndTheInvisiblePenInTheTrace) {
+  // 1/X at zoom 177: the samples next to the pole pass 100, are skipped, and
+  // leave the pen invisible for the next segment.
+  const PlotRun run = Plot({"--width", "60", "--zoom", "177", "--y", "1/X", "--trace"});
+  const auto lines = Lines(run.out);
+  ASSERT_EQ(lines.size(), 61u);
+  int beyond = 0;
+  for (std::size_t i = 0; i + 1 < lines.size(); ++i) {
+    const auto cells = Split(lines[i]);
+    if (cells[5] != "skip" || std::abs(std::stod(cells[1])) <= 100) continue;
+    ++beyond;
+    EXPECT_EQ(cells[6], "5") << lines[i];
+  }
+  EXPECT_GE(beyond, 2);
+  const PlotRun zero = Plot({"--width", "10", "--y", "0", "--trace"});
+  for (const auto& line : Lines(zero.out)) EXPECT_EQ(Split(line)[5], "skip");
+}
+
+TEST_F(PlotCli, TableAndStatus) {
+  const PlotRun run = Plot({"--y", "X^2", "--table", "--status"});
+  ASSERT_EQ(run.status, 0) << run.out;
+  const auto lines = Lines(run.out);
+  // From Xpoc to Xkraj: -10 to 9.999, the last K cut down, by 1.
+  ASSERT_EQ(lines.size(), 21u + 3u);
+  EXPECT_EQ(lines[0], "X\tY\tY'");
+  EXPECT_EQ(lines[1], "-10\t100\t-20");
+  EXPECT_EQ(lines[11], "0\t0\t0");
+  EXPECT_EQ(lines[20], "9\t81\t18");
+  EXPECT_EQ(lines[21], "Y (X) = X^2");
+  EXPECT_EQ(lines[22], "Zoom: 30");
+  EXPECT_EQ(lines[23], "Moved:");
+}
+
+TEST_F(PlotCli, HistoryGoesToTheGivenFileWithCrLf) {
+  Plot({"--y", "SinK"});
+  Plot({"--type", "polar", "--y", "1+CosK"});
+  EXPECT_EQ(ReadFile(History()),
+            "\r\n Y(X) = sinx\r\n X = ; Y = \r\n ____________________________________\r\n"
+            "\r\n R(K) = 1+cosk\r\n ____________________________________\r\n");
+  EXPECT_FALSE(fs::exists(dir_ / "data" / "Velmora" / "GraphLog.txt"));
+}
+
+TEST_F(PlotCli, WithoutFilesTheUsersStoreAndLogAreUsed) {
+  Plot({"--y", "X/2"}, false);
+  EXPECT_NE(ReadFile(dir_ / "config" / "Velmora" / "Velmora.ini").find("Recent1=\"X/2 ; K | Cartesian\""),
+            std::string::npos);
+  EXPECT_NE(ReadFile(dir_ / "data" / "Velmora" / "GraphLog.txt").find(" Y(X) = x/2"), std::string::npos);
+}
+
+TEST_F(PlotCli, RecentFunctionsAreKeptInTheSettingsFile) {
+  Plot({"--y", "X/2", "--type", "parametric", "--y", "SinK", "--x", "CosK"});
+  const std::string ini = ReadFile(Settings());
+  EXPECT_NE(ini.find("Recent1=\"SinK ; CosK | Parametric\""), std::string::npos) << ini;
+  EXPECT_NE(ini.find("Recent2=\"X/2 ; K | Cartesian\""), std::string::npos) << ini;
+}
+
+TEST_F(PlotCli, ParametricTable) {
+  const PlotRun run = Plot({"--type", "parametric", "--y", "SinK", "--x", "CosK", "--table", "--status"});
+  const auto lines = Lines(run.out);
+  ASSERT_EQ(lines.size(), 20u + 3u);
+  EXPECT_EQ(lines[0], "K\tX (K)\tY (K)");
+  EXPECT_EQ(lines[1], "-9\t-0.911\t-0.412");
+  EXPECT_EQ(lines[20], "Y (K) = SinK ; X (K) = CosK");
+}
+
+TEST_F(PlotCli, ZoomPresetsAndTheRangeRule) {
+  EXPECT_EQ(Lines(Plot({"--zoom", "out", "--status"}).out)[1], "Zoom: 15");
+  EXPECT_EQ(Lines(Plot({"--zoom", "50", "--status"}).out)[1], "Zoom: 50");
+  EXPECT_EQ(Lines(Plot({"--zoom", "200", "--status"}).out)[1], "Zoom: 200");
+  EXPECT_EQ(Lines(Plot({"--zoom", "5", "--status"}).out)[1], "Zoom: 5");
+  const auto refused = Lines(Plot({"--zoom", "4.9", "--status"}).out);
+  EXPECT_EQ(refused[0], "message: Input out of range (5-200)!");
+  EXPECT_EQ(refused[2], "Zoom: 30");
+  EXPECT_EQ(Lines(Plot({"--zoom", "200.1", "--status"}).out)[0], "message: Input out of range (5-200)!");
+}
+
+TEST_F(PlotCli, MovesInOrderAndCenter) {
+  auto lines = Lines(Plot({"--y", "X", "--right", "2", "--up", "1", "--status"}).out);
+  EXPECT_EQ(lines.back(), "Moved: R: 2 Up: 1");
+  lines = Lines(Plot({"--right", "2", "--center", "--status"}).out);
+  EXPECT_EQ(lines.back(), "Moved:");
+  // A move replays the function at the new view: the trace runs twice, the
+  // second time from K = -12.
+  lines = Lines(Plot({"--y", "X/2", "--right", "2", "--trace"}).out);
+  ASSERT_EQ(lines.size(), 1202u);
+  EXPECT_EQ(Split(lines[601])[0], "-12");
+}
+
+TEST_F(PlotCli, WithAutoredOffAViewChangeDoesNotReplay) {
+  SetGrid("Autored=0\n");
+  const auto lines = Lines(Plot({"--y", "X/2", "--zoom", "in", "--trace"}).out);
+  EXPECT_EQ(lines.size(), 601u);
+}
+
+TEST_F(PlotCli, ReplayRunsRedrawFuncAtTheEnd) {
+  const auto lines = Lines(Plot({"--y", "X/2", "--y", "X/3", "--replay", "--trace"}).out);
+  EXPECT_EQ(lines.size(), 4u * 601u);
+}
+
+TEST_F(PlotCli, BadSyntaxIsAMessageAndNoRecord) {
+  const PlotRun run = Plot({"--y", "Sin(X", "--trace"});
+  EXPECT_EQ(run.status, 0);
+  EXPECT_EQ(Lines(run.out), (std::vector<std::string>{"message: Check bracket placement!"}));
+  EXPECT_FALSE(fs::exists(History()));
+}
+
+TEST_F(PlotCli, MissingArrowFontsArePrintedAsAMessage) {
+  SetGrid("Ozna=1\n");
+  const PlotRun run = Plot({"--status"});
+  EXPECT_NE(run.out.find("message: Fonts Marlett or Webdings are missing."), std::string::npos);
+}
+
+TEST_F(PlotCli, BadCommandLines) {
+  EXPECT_NE(Plot({"--bogus"}).status, 0);
+  EXPECT_NE(Plot({"--y"}).status, 0);
+  EXPECT_NE(Plot({"--type", "round", "--y", "X"}).status, 0);
+  EXPECT_NE(Plot({"--width", "0"}).status, 0);
+}
+
+#ifdef VELMORA_CLI_HAS_PNG
+TEST_F(PlotCli, PngOfTheSurface) {
+  const fs::path png = dir_ / "plot.png";
+  const PlotRun run = Plot({"--width", "321", "--height", "123", "--y", "SinX", "--png", png.string()});
+  ASSERT_EQ(run.status, 0) << run.out;
+  const std::string data = ReadFile(png);
+  ASSERT_GT(data.size(), 24u);
+  EXPECT_EQ(data.substr(1, 3), "PNG");
+  const auto byte = [&data](std::size_t i) { return static_cast<unsigned char>(data[i]); };
+  EXPECT_EQ((byte(16) << 24) | (byte(17) << 16) | (byte(18) << 8) | byte(19), 321);
+  EXPECT_EQ((byte(20) << 24) | (byte(21) << 16) | (byte(22) << 8) | byte(23), 123);
+  EXPECT_NE(Plot({"--png", (dir_ / "no" / "such" / "dir.png").string()}).status, 0);
+}
+#else
+TEST_F(PlotCli, PngNeedsQt) {
+  const PlotRun run = Plot({"--y", "X", "--png", (dir_ / "plot.png").string(), "--status"});
+  EXPECT_NE(run.status, 0);
+  EXPECT_NE(run.out.find("--png needs a build with Qt"), std::string::npos);
+  EXPECT_NE(run.out.find("Y (X) = X"), std::string::npos);  // the rest still ran
+}
+#endif
+
+}  // namespace
