@@ -139,11 +139,15 @@ double GraphWindow::F(double v) {
 
 double GraphWindow::F2(double v, double w) {
   try {
+    // The Cartesian X is "K" itself: its value is the number its text reads,
+    // which is what the engine would return for "(" & v & ")". The loop's K
+    // has three decimals, and such a value reads back as itself, so the
+    // text is needed only for other values.
+    const bool onlyK = FuncX == "K" || FuncX == "k";
+    if (onlyK && std::fabs(v) < 1e12 && std::floor(v * 1000) / 1000 == v) return v;
     char number[expr::kNumberTextMax];
     const std::size_t length = expr::NumberToText(v, number);
-    // The Cartesian X is "K" itself: its value is the number its text reads,
-    // which is what the engine would return for "(" & v & ")".
-    if (FuncX == "K" || FuncX == "k") return expr::TextToNumber(std::string_view(number, length));
+    if (onlyK) return expr::TextToNumber(std::string_view(number, length));
     char yNumber[expr::kNumberTextMax];
     const std::size_t yLength = expr::NumberToText(w, yNumber);
     formula_.clear();

@@ -55,6 +55,11 @@ long PassCount(double start, double end, double step) {
   return static_cast<long>(std::floor(std::min(steps + 1e-7, kMaxPasses))) + 1;
 }
 
+// PrcniFunc: the value's text is one of the five non-finite spellings. The
+// text form spells exactly the values that are not finite, so the test is
+// made on the value and the loop saves two conversions to text per sample.
+bool NotFinite(double value) { return !std::isfinite(value); }
+
 }  // namespace
 
 const char* ActionName(PassAction action) {
@@ -107,7 +112,7 @@ LoopResult SamplingLoop::Run() {
     y = strategy_.SampleY(kr);
     // 2-3. A value that is not finite, an exact 0 (how a failed evaluation
     // comes back) or one beyond the limit is skipped.
-    if (!expr::PrcniFunc(y) && y != 0 && !(std::fabs(y) > kLimit)) {
+    if (!NotFinite(y) && y != 0 && !(std::fabs(y) > kLimit)) {
       // 4-5.
       x = strategy_.SampleX(kr, std::floor(y * 1000) / 1000);
       ResumeNext([&] { xp = Checked(w.CenterX + Checked(x * w.Zoom)); });
@@ -164,7 +169,7 @@ LoopResult SamplingLoop::Run() {
     }
     // 10. The pen for the next segment: invisible after a sample whose text
     // reads beyond the limit or whose X is not finite.
-    const bool invisible = TextAboveLimit(y) || expr::PrcniFunc(x);
+    const bool invisible = TextAboveLimit(y) || NotFinite(x);
     ResumeNext([&] { s.SetDrawStyle(invisible ? kInvisible : kSolid); });
     if (w.services_.observer != nullptr)
       w.services_.observer->Pass({kr, y, x, xp, yp, action, s.DrawStyle()});

@@ -34,6 +34,7 @@ QImageSurface::~QImageSurface() { EndPainting(); }
 
 QPainter& QImageSurface::Painter() {
   if (!painter_) {
+    penKey_ = PenKey{};
     painter_ = std::make_unique<QPainter>(&image_);
     painter_->setRenderHint(QPainter::Antialiasing, false);
     painter_->setRenderHint(QPainter::TextAntialiasing, true);
@@ -90,7 +91,12 @@ void QImageSurface::PaintClear() { Painter().fillRect(image_.rect(), ToQColor(Ba
 void QImageSurface::PaintLine(double x1, double y1, double x2, double y2, graph::Colour colour) {
   if (DrawStyle() == graph::kInvisible) return;
   QPainter& p = Painter();
-  p.setPen(Pen(colour));
+  // A curve is hundreds of lines in one pen: set it only when it changes.
+  const PenKey key{colour, DrawWidth(), DrawStyle()};
+  if (!(key == penKey_)) {
+    p.setPen(Pen(colour));
+    penKey_ = key;
+  }
   p.drawLine(QPointF(x1, y1), QPointF(x2, y2));
 }
 
@@ -98,6 +104,7 @@ void QImageSurface::PaintCircle(double x, double y, double radius, graph::Colour
   if (DrawStyle() == graph::kInvisible) return;
   QPainter& p = Painter();
   p.setPen(Pen(colour));
+  penKey_ = PenKey{};
   p.setBrush(Qt::NoBrush);
   p.drawEllipse(QPointF(x, y), radius, radius);
 }
@@ -111,6 +118,7 @@ void QImageSurface::PaintText(double x, double y, std::string_view text) {
     p.fillRect(QRectF(x, y, metrics.horizontalAdvance(qtext), metrics.height()), ToQColor(BackColor()));
   }
   p.setPen(ToQColor(ForeColor()));
+  penKey_ = PenKey{};
   p.drawText(QPointF(x, y + metrics.ascent()), qtext);
 }
 

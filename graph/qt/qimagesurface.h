@@ -48,7 +48,16 @@ class QImageSurface final : public graph::BasicSurface {
   void EndPainting();
   QPen Pen(graph::Colour colour) const;
 
+  // The pen the painter holds, so that lines in one pen do not set it again.
+  struct PenKey {
+    graph::Colour colour = 0xFFFFFFFF;  // no colour: nothing set yet
+    int width = 0;
+    int style = -1;
+    bool operator==(const PenKey&) const = default;
+  };
+
   QImage image_;
+  PenKey penKey_;
   std::unique_ptr<QPainter> painter_;
   QFont font_;
 };
