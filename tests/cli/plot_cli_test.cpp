@@ -239,6 +239,19 @@ TEST_F(PlotCli, PngOfTheSurface) {
   EXPECT_EQ((byte(20) << 24) | (byte(21) << 16) | (byte(22) << 8) | byte(23), 123);
   EXPECT_NE(Plot({"--png", (dir_ / "no" / "such" / "dir.png").string()}).status, 0);
 }
+
+// The random colours are never seeded: every start draws the same colours.
+TEST_F(PlotCli, RandomColoursRepeatFromStartToStart) {
+  SetGrid("Rnd=1\n");
+  const fs::path a = dir_ / "a.png";
+  const fs::path b = dir_ / "b.png";
+  Plot({"--y", "X/2", "--y", "X/3", "--png", a.string()});
+  Plot({"--y", "X/2", "--y", "X/3", "--png", b.string()});
+  EXPECT_EQ(ReadFile(a), ReadFile(b));
+  std::ofstream(Settings()) << "[Grid]\nRnd=0\n";
+  Plot({"--y", "X/2", "--y", "X/3", "--png", b.string()});
+  EXPECT_NE(ReadFile(a), ReadFile(b));
+}
 #else
 TEST_F(PlotCli, PngNeedsQt) {
   const PlotRun run = Plot({"--y", "X", "--png", (dir_ / "plot.png").string(), "--status"});

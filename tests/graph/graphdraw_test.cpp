@@ -406,6 +406,22 @@ TEST_F(DrawTest, RandomColoursGiveEachDrawItsOwnColour) {
   EXPECT_EQ(w.lblBoja.BackColor, kGraph);  // the label keeps the set colour
 }
 
+// Rnd is read from the store at each draw, so a change made through one
+// window shows in another at its next draw.
+TEST_F(DrawTest, RndChangedElsewhereAppliesAtTheNextDraw) {
+  auto& w = Make();
+  WindowFixture other;
+  other.Make();
+  Enter("X/2");
+  EXPECT_EQ(w.Graph_Clr, kGraph);
+  other.settings.Store("Grid", "Rnd", "1");  // another window's store: not this one
+  Enter("X/2");
+  EXPECT_EQ(w.Graph_Clr, kGraph);
+  f.settings.Store("Grid", "Rnd", "1");  // the shared store
+  Enter("X/2");
+  EXPECT_NE(w.Graph_Clr, kGraph);
+}
+
 TEST_F(DrawTest, LineWidthInputBox) {
   auto& w = Make();
   f.input.Answer(std::string("abc"));
