@@ -3,28 +3,13 @@
 #include <ostream>
 #include <string_view>
 
+#include "cli/streammessagebox.h"
 #include "complex/complexcalculator.h"
 #include "complex/complextables.h"
 #include "platform/messagebox.h"
 
 namespace velmora::cli {
 namespace {
-
-// Prints every box the calculator would show, in the order shown, and
-// answers it with its default button.
-class PrintingMessageBox final : public platform::MessageBox {
- public:
-  explicit PrintingMessageBox(std::ostream& out) : out_(out) {}
-  platform::MsgResult Show(const std::string& text, const std::string& title, platform::MsgIcon icon,
-                           platform::MsgButtons buttons) override {
-    out_ << "message: " << text << '\n';
-    return silent_.Show(text, title, icon, buttons);
-  }
-
- private:
-  std::ostream& out_;
-  platform::SilentMessageBox silent_;
-};
 
 void Usage(std::ostream& err) {
   err << "usage: velmora-cli complex OP Z1 [Z2]\n  OP:";
@@ -59,7 +44,7 @@ int RunComplex(const std::vector<std::string>& args, std::istream&, std::ostream
     err << "velmora-cli complex: " << entry->name << " needs Z2\n";
     return 2;
   }
-  PrintingMessageBox box(out);
+  StreamMessageBox box(out, "message: ");
   complex::ComplexCalculator calculator(box);
   complex::ComplexFields& fields = calculator.Fields();
   fields.lblZ1 = args[1];

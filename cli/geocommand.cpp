@@ -4,6 +4,7 @@
 #include <ostream>
 #include <string_view>
 
+#include "cli/streammessagebox.h"
 #include "geometry/boxrecord.h"
 #include "geometry/catalogue.h"
 #include "geometry/convertresult.h"
@@ -14,29 +15,6 @@
 namespace velmora::cli {
 namespace {
 
-using platform::MsgButtons;
-using platform::MsgIcon;
-using platform::MsgResult;
-
-// Message boxes as lines of output; a yes/no question is answered by the
-// command line's --yes or --no.
-class PrintingMessageBox final : public platform::MessageBox {
- public:
-  PrintingMessageBox(std::ostream& out, bool yes) : out_(out), yes_(yes) {}
-
-  MsgResult Show(const std::string& text, const std::string&, MsgIcon, MsgButtons buttons) override {
-    if (buttons == MsgButtons::YesNo || buttons == MsgButtons::YesNoCancel) {
-      out_ << "question: " << text << '\n';
-      return yes_ ? MsgResult::Yes : MsgResult::No;
-    }
-    out_ << "message: " << text << '\n';
-    return MsgResult::Ok;
-  }
-
- private:
-  std::ostream& out_;
-  bool yes_;
-};
 
 void PrintBoxes(const geometry::BoxRecord& boxes, std::ostream& out) {
   for (std::size_t i = 0; i < boxes.Size(); ++i) out << boxes.NameAt(i) << '=' << boxes.TextAt(i) << '\n';
@@ -107,7 +85,7 @@ int RunGeo(const std::vector<std::string>& args, std::istream&, std::ostream& ou
   }
   geometry::Figure figure{geometry::BoxRecord(kind->boxes)};
   for (std::size_t i = 0; i < given; ++i) figure.boxes.SetText(entry->inputs[i], words[i + 2]);
-  PrintingMessageBox box(out, yes);
+  StreamMessageBox box(out, "message: ", yes);
   entry->solve(figure, box);
   PrintBoxes(figure.boxes, out);
   if (figure.result.empty()) out << "result=\n";
@@ -123,7 +101,7 @@ int RunConvert(const std::vector<std::string>& args, std::istream&, std::ostream
            "       velmora-cli convert degrees DEG MIN SEC\n";
     return 2;
   }
-  PrintingMessageBox box(out, false);
+  StreamMessageBox box(out, "message: ", false);
   if (args[0] == "degrees") {
     geometry::BoxRecord boxes(geometry::kDegreesBoxes);
     boxes.SetText("txtDeg", args[1]);
@@ -169,7 +147,7 @@ int RunBase(const std::vector<std::string>& args, std::istream&, std::ostream& o
     err << "usage: velmora-cli base INDEX VALUE  (INDEX 0 decimal, 1 binary, 2 hexadecimal, 3 octal)\n";
     return 2;
   }
-  PrintingMessageBox box(out, false);
+  StreamMessageBox box(out, "message: ", false);
   const auto converted = geometry::ConvertResult(args[1], index, box);
   if (converted) out << "result=" << converted->text << "\nmode=" << converted->mode << '\n';
   return 0;

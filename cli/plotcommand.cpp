@@ -9,6 +9,7 @@
 #include <string_view>
 
 #include "cli/plotcanvas.h"
+#include "cli/streammessagebox.h"
 #include "expr/numtext.h"
 #include "graph/graphwindow.h"
 #include "graph/historylog.h"
@@ -23,22 +24,6 @@ constexpr std::string_view kUsage =
     "         [--type cartesian|parametric|polar] --y TEXT [--x TEXT] ...\n"
     "         [--zoom in|out|default|Z] [--right N] [--left N] [--up N] [--down N] [--center] ...\n"
     "         [--replay] [--png FILE] [--trace] [--table] [--status]\n";
-
-// Every box the window shows is printed, as a user would read it; a
-// question takes its default button.
-class PrintingMessageBox final : public platform::MessageBox {
- public:
-  explicit PrintingMessageBox(std::ostream& out) : out_(out) {}
-  platform::MsgResult Show(const std::string& text, const std::string& title, platform::MsgIcon icon,
-                           platform::MsgButtons buttons) override {
-    out_ << "message: " << text << '\n';
-    return silent_.Show(text, title, icon, buttons);
-  }
-
- private:
-  std::ostream& out_;
-  platform::SilentMessageBox silent_;
-};
 
 // The answers of the move and zoom commands, typed in advance.
 class QueuedInputBox final : public platform::InputBox {
@@ -165,7 +150,7 @@ int RunPlot(const std::vector<std::string>& args, std::istream& /*in*/, std::ost
 
   platform::IniSettingsStore settings(o.settings.value_or(platform::UserSettingsPath()));
   graph::HistoryLog history(o.history.value_or(graph::HistoryLog::DefaultPath()));
-  PrintingMessageBox messages(out);
+  StreamMessageBox messages(out, "message: ");
   QueuedInputBox input;
   platform::RecentList recent(settings, platform::RecentList::kFunctions);
   recent.LoadRecent();
