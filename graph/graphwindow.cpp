@@ -43,6 +43,7 @@ GraphWindow::GraphWindow(Surface& pDraw, GraphServices services)
   MovedText = "Moved:";
   lblPerCent.BackColor = kLabelGrey;
   lblPerCent.Visible = false;
+  LblChart.BackColor = kLabelGrey;
   lblxy.Caption = "Y";
   lblxy.Visible = false;
   lblPointtab.Caption = "Value Tables:";
@@ -110,14 +111,16 @@ void GraphWindow::PodeliFje(std::string_view line) {
 
 // ---- Evaluation ------------------------------------------------------------------
 
-double GraphWindow::F(double v) {
+double GraphWindow::F(double v) { return EvaluateAt(FuncY, v); }
+
+double GraphWindow::EvaluateAt(std::string_view evaluationForm, double v) {
   try {
     formula_.clear();
     char number[expr::kNumberTextMax];
     const std::size_t length = expr::NumberToText(v, number);
     // Every K (after upper-casing) becomes the value in brackets; the
     // replacement holds no K, so one left-to-right pass is the whole rescan.
-    for (const char c : FuncY) {
+    for (const char c : evaluationForm) {
       const char u = (c >= 'a' && c <= 'z') ? static_cast<char>(c - 'a' + 'A') : c;
       if (u == 'K') {
         formula_ += '(';

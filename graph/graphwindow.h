@@ -115,6 +115,7 @@ class GraphWindow final : public expr::GraphFields {
   Label LABx;      // "X (K) ="
   int optFunkcije = kCartesian;
   Label lblPerCent;   // progress text
+  Label LblChart;     // the coordinate readout under the mouse
   Label lblzm;        // the zoom factor as text
   Label lblBoja;      // back colour: the graph colour
   Label lblxy;        // which box has the focus
@@ -155,6 +156,9 @@ class GraphWindow final : public expr::GraphFields {
   // The evaluation primitives; a failed evaluation gives 0.
   double F(double v);
   double F2(double v, double w);
+  // F on another text of the evaluation form (the mouse copy of a function,
+  // FMis): every K becomes the value in brackets, Evaluator1 computes it.
+  double EvaluateAt(std::string_view evaluationForm, double v);
 
   // ---- Paper and clearing ---------------------------------------------------
   void DrawLines();

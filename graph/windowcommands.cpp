@@ -1,0 +1,192 @@
+#include "graph/windowcommands.h"
+
+#include <filesystem>
+#include <system_error>
+
+#include "graph/graphwindow.h"
+#include "platform/settingskeys.h"
+
+namespace velmora::graph {
+namespace {
+
+constexpr std::string_view kColours = "Boje";
+
+Colour DefaultColour(std::string_view key) {
+  return static_cast<Colour>(std::stoul(std::string(platform::DefaultOf(kColours, key))));
+}
+
+}  // namespace
+
+// ---- Colours ------------------------------------------------------------------------
+
+bool WindowCommands::ChooseColour(std::uint32_t& colour) {
+  if (w_.Drawing || colours_ == nullptr) return false;
+  const auto chosen = colours_->Choose(colour);
+  if (!chosen) return false;
+  colour = *chosen & 0xFFFFFF;
+  return true;
+}
+
+void WindowCommands::RepaintPaper() {
+  w_.Clearwith();
+  w_.DrawLines();
+}
+
+bool WindowCommands::mnuBojeBack() {
+  std::uint32_t colour = w_.pDraw().BackColor();
+  if (!ChooseColour(colour)) return false;
+  w_.pDraw().SetBackColor(colour);
+  RepaintPaper();
+  return true;
+}
+
+bool WindowCommands::mnuBojeGrid() {
+  std::uint32_t colour = w_.GridColor;
+  if (!ChooseColour(colour)) return false;
+  w_.GridColor = colour;
+  RepaintPaper();
+  return true;
+}
+
+bool WindowCommands::mnuBojeAxes() {
+  std::uint32_t colour = w_.AxesColor;
+  if (!ChooseColour(colour)) return false;
+  w_.AxesColor = colour;
+  RepaintPaper();
+  return true;
+}
+
+bool WindowCommands::mnuBojeGraph() {
+  // The dialog starts from the chosen colour, not from a random one.
+  std::uint32_t colour = w_.lblBoja.BackColor;
+  if (!ChooseColour(colour)) return false;
+  w_.Graph_Clr = colour;
+  w_.lblBoja.BackColor = colour;
+  return true;
+}
+
+void WindowCommands::mnuBojeDef() {
+  if (w_.Drawing) return;
+  w_.pDraw().SetBackColor(DefaultColour("Pozadina"));
+  w_.Graph_Clr = DefaultColour("Grafik");
+  w_.lblBoja.BackColor = w_.Graph_Clr;
+  w_.GridColor = DefaultColour("Grid");
+  w_.AxesColor = DefaultColour("Ose");
+  RepaintPaper();
+}
+
+void WindowCommands::Sacboje() {
+  const auto store = [&](std::string_view key, Colour colour) {
+    platform::SetRegValue(settings_, kColours, key, std::to_string(colour & 0xFFFFFF));
+  };
+  store("Pozadina", w_.pDraw().BackColor());
+  store("Grafik", w_.lblBoja.BackColor);
+  store("Grid", w_.GridColor);
+  store("Ose", w_.AxesColor);
+}
+
+void WindowCommands::ColourMenu(ColourEntry entry) {
+  if (w_.Drawing) return;
+  w_.Zezaj = true;
+  bool changed = true;
+  switch (entry) {
+    case ColourEntry::Background: changed = mnuBojeBack(); break;
+    case ColourEntry::Grid: changed = mnuBojeGrid(); break;
+    case ColourEntry::Axes: changed = mnuBojeAxes(); break;
+    case ColourEntry::Graph: changed = mnuBojeGraph(); break;
+    case ColourEntry::Default: mnuBojeDef(); break;
+  }
+  if (changed) {
+    Sacboje();
+    if (w_.KolkoFunkc > 0) w_.RedrawFunc();
+  }
+  w_.Zezaj = false;
+}
+
+// ---- Edit menu ---------------------------------------------------------------------------
+
+void WindowCommands::ClearAll() {
+  if (w_.Drawing) return;
+  if (w_.KolkoFunkc > 0) {
+    const auto answer = messages_.Show(std::string(kClearAllQuestion), std::string(kClearAllTitle),
+                                       platform::MsgIcon::Question, platform::MsgButtons::YesNo);
+    if (answer != platform::MsgResult::Yes) return;
+  }
+  w_.ClearGraph(true);
+}
+
+void WindowCommands::ClearScreen() {
+  if (w_.Drawing) return;
+  w_.Zezaj = true;
+  w_.ClearGraph(false);
+  w_.Zezaj = false;
+}
+
+void WindowCommands::mnuclhistory() {
+  if (w_.Drawing) return;
+  const auto answer =
+      messages_.Show(std::string(kClearHistoryQuestion), std::string(GraphWindow::kDefaultTitle),
+                     platform::MsgIcon::Question, platform::MsgButtons::YesNo);
+  if (answer != platform::MsgResult::Yes) return;
+  if (history_ != nullptr) history_->Clear();
+  w_.rtb.clear();
+}
+
+bool WindowCommands::AskBeforeErasing() {
+  if (w_.KolkoFunkc > 0 && platform::ReadSettingNumber(settings_, "Grid", "Autored") == 0) {
+    const auto answer = messages_.Show(std::string(kClearGridQuestion), std::string(kClearGridTitle),
+                                       platform::MsgIcon::None, platform::MsgButtons::OkCancel);
+    if (answer != platform::MsgResult::Ok) return false;
+  }
+  return true;
+}
+
+void WindowCommands::ClearGrid() {
+  if (w_.Drawing || !AskBeforeErasing()) return;
+  w_.Clearwith();
+  if (platform::ReadSettingNumber(settings_, "Grid", "Autored") == 1) w_.RedrawFunc();
+}
+
+void WindowCommands::RedrawGrid() {
+  if (w_.Drawing || !AskBeforeErasing()) return;
+  w_.Redraw();
+  if (platform::ReadSettingNumber(settings_, "Grid", "Autored") == 1) w_.RedrawFunc();
+}
+
+void WindowCommands::ClearFju() {
+  if (w_.Drawing) return;
+  const auto answer = messages_.Show(std::string(kClearFunctionQuestion), std::string(kClearFunctionTitle),
+                                     platform::MsgIcon::None, platform::MsgButtons::OkCancel);
+  if (answer != platform::MsgResult::Ok) return;
+  w_.txtY.Text.clear();
+}
+
+void WindowCommands::SwapYX() {
+  if (w_.Drawing) return;
+  std::swap(w_.txtY.Text, w_.txtX.Text);
+}
+
+// ---- Pictures ---------------------------------------------------------------------------------
+
+bool WindowCommands::Sav1(const PictureWriter& write) {
+  if (w_.Drawing || files_ == nullptr) return false;
+  const auto chosen = files_->Save(std::string(kSaveTitle), std::string(kSaveFilter), "", "");
+  if (!chosen || chosen->empty()) return false;
+  std::filesystem::path path(*chosen);
+  if (!path.has_extension()) path += ".bmp";
+  const std::string name = path.string();
+  std::error_code error;
+  if (std::filesystem::exists(path, error)) {
+    const auto answer = messages_.Show(name + std::string(kReplaceQuestion), std::string(kReplaceTitle),
+                                       platform::MsgIcon::Exclamation, platform::MsgButtons::YesNo);
+    if (answer != platform::MsgResult::Yes) return false;
+  }
+  if (write(name)) return true;
+  messages_.Show(name + "\r\n" + std::string(kSaveFailed), std::string(kSaveTitle),
+                 platform::MsgIcon::Critical);
+  return false;
+}
+
+bool WindowCommands::FrameOnCopies() { return platform::ReadSettingNumber(settings_, "Grid", "Ram") == 1; }
+
+}  // namespace velmora::graph
