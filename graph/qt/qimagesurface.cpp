@@ -12,6 +12,26 @@ namespace {
 // 96 dots per inch, in dots per metre.
 constexpr int kDotsPerMetre = 3780;
 
+// The symbol glyphs, in em from the top left of their cell: the centre of
+// the arrow head and half its size. The up arrow sits lower in its cell
+// than the others, so that printed at the top of a surface (as the Y
+// axis's arrow is) its point stays on the surface.
+struct SymbolGlyph {
+  char character;
+  double centreX;
+  double centreY;
+  int direction;  // 0 left, 1 right, 2 up, 3 down
+};
+constexpr SymbolGlyph kSymbolGlyphs[] = {
+    {'3', 0.43, 0.43, 0},
+    {'4', 0.43, 0.43, 1},
+    {'5', 0.43, 0.60, 2},
+    {'6', 0.43, 0.43, 3},
+};
+constexpr double kArrowHalf = 0.24;
+constexpr double kBoldGrowth = 1.2;
+constexpr double kPointsToPixels = 96.0 / 72.0;
+
 QString ToQString(std::string_view text) {
   return QString::fromUtf8(text.data(), static_cast<qsizetype>(text.size()));
 }
@@ -52,7 +72,9 @@ const QImage& QImageSurface::Image() {
 
 bool QImageSurface::SavePng(const QString& file) { return Image().save(file, "PNG"); }
 
-void QImageSurface::Resize(int width, int height) {
+void QImageSurface::Resize(int width, int height) { Resize(width, height, 0, 0); }
+
+void QImageSurface::Resize(int width, int height, int dx, int dy) {
   EndPainting();
   BasicSurface::Resize(width, height);
   QImage resized(std::max(width, 1), std::max(height, 1), QImage::Format_RGB32);
@@ -61,7 +83,7 @@ void QImageSurface::Resize(int width, int height) {
   resized.fill(ToQColor(BackColor()));
   {
     QPainter copy(&resized);
-    copy.drawImage(0, 0, image_);
+    copy.drawImage(dx, dy, image_);
   }
   image_ = std::move(resized);
 }
@@ -109,7 +131,63 @@ void QImageSurface::PaintCircle(double x, double y, double radius, graph::Colour
   p.drawEllipse(QPointF(x, y), radius, radius);
 }
 
+bool QImageSurface::IsSymbolFont(std::string_view name) { return name == "Marlett" || name == "Webdings"; }
+
+double QImageSurface::EmPixels() const { return FontSize() * kPointsToPixels; }
+
+void QImageSurface::PaintSymbols(double x, double y, std::string_view text) {
+  QPainter& p = Painter();
+  const double em = EmPixels();
+  const double advance = kSymbolAdvance * em;
+  if (!FontTransparent()) {
+    p.fillRect(QRectF(x, y, advance * static_cast<double>(text.size()), em), ToQColor(BackColor()));
+  }
+  p.setRenderHint(QPainter::Antialiasing, true);
+  p.setPen(Qt::NoPen);
+  p.setBrush(ToQColor(ForeColor()));
+  penKey_ = PenKey{};
+  const double half = kArrowHalf * em * (FontBold() ? kBoldGrowth : 1.0);
+  double left = x;
+  for (const char c : text) {
+    for (const auto& glyph : kSymbolGlyphs) {
+      if (glyph.character != c) continue;
+      const QPointF centre(left + glyph.centreX * em, y + glyph.centreY * em);
+      QPointF points[3];
+      switch (glyph.direction) {
+        case 0:
+          points[0] = centre + QPointF(-half, 0);
+          points[1] = centre + QPointF(half, -half);
+          points[2] = centre + QPointF(half, half);
+          break;
+        case 1:
+          points[0] = centre + QPointF(half, 0);
+          points[1] = centre + QPointF(-half, -half);
+          points[2] = centre + QPointF(-half, half);
+          break;
+        case 2:
+          points[0] = centre + QPointF(0, -half);
+          points[1] = centre + QPointF(-half, half);
+          points[2] = centre + QPointF(half, half);
+          break;
+        default:
+          points[0] = centre + QPointF(0, half);
+          points[1] = centre + QPointF(-half, -half);
+          points[2] = centre + QPointF(half, -half);
+          break;
+      }
+      p.drawPolygon(points, 3);
+    }
+    left += advance;
+  }
+  p.setBrush(Qt::NoBrush);
+  p.setRenderHint(QPainter::Antialiasing, false);
+}
+
 void QImageSurface::PaintText(double x, double y, std::string_view text) {
+  if (symbolFont_) {
+    PaintSymbols(x, y, text);
+    return;
+  }
   QPainter& p = Painter();
   p.setFont(font_);
   const QString qtext = ToQString(text);
@@ -123,23 +201,27 @@ void QImageSurface::PaintText(double x, double y, std::string_view text) {
 }
 
 void QImageSurface::FontChanged() {
+  symbolFont_ = IsSymbolFont(FontName());
   font_ = QFont(ToQString(FontName()));
   font_.setPointSizeF(FontSize());
   font_.setBold(FontBold());
 }
 
 std::string QImageSurface::ResolveFontName(std::string_view requested) const {
-  if (requested == "MS Sans Serif" || requested == "Arial") return std::string(requested);
+  if (requested == "MS Sans Serif" || requested == "Arial" || IsSymbolFont(requested))
+    return std::string(requested);
   const QString family = ToQString(requested);
   if (QFontDatabase::hasFamily(family)) return std::string(requested);
   return QFontInfo(QFont(family)).family().toStdString();
 }
 
 double QImageSurface::TextWidth(std::string_view text) const {
+  if (symbolFont_) return kSymbolAdvance * EmPixels() * static_cast<double>(text.size());
   return QFontMetricsF(font_, &image_).horizontalAdvance(ToQString(text));
 }
 
 double QImageSurface::TextHeight(std::string_view /*text*/) const {
+  if (symbolFont_) return EmPixels();
   return QFontMetricsF(font_, &image_).height();
 }
 

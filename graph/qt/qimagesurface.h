@@ -20,6 +20,11 @@ namespace velmora::graph_qt {
 // to whatever the platform puts in their place; any other name must exist,
 // or reads back as the family that stands in for it.
 //
+// The two symbol fonts of the axis arrows, "Marlett" and "Webdings", are
+// the surface's own: their names read back as set, and their digits "3" to
+// "6" are drawn as filled arrow heads (left, right, up, down) of the font
+// size, as those fonts draw them; other characters advance and draw nothing.
+//
 // Text needs a QGuiApplication (see HeadlessGui for programs without one).
 class QImageSurface final : public graph::BasicSurface {
  public:
@@ -31,6 +36,13 @@ class QImageSurface final : public graph::BasicSurface {
   bool SavePng(const QString& file);
   // Keeps what fits, fills the rest with the back colour.
   void Resize(int width, int height) override;
+  // The same with the old picture moved by (dx, dy) pixels.
+  void Resize(int width, int height, int dx, int dy);
+
+  // Whether a font name is one of the symbol fonts the surface draws itself.
+  static bool IsSymbolFont(std::string_view name);
+  // The advance of one symbol glyph, in em (the font size in pixels).
+  static constexpr double kSymbolAdvance = 0.68;
 
   double TextWidth(std::string_view text) const override;
   double TextHeight(std::string_view text) const override;
@@ -47,6 +59,8 @@ class QImageSurface final : public graph::BasicSurface {
   QPainter& Painter();
   void EndPainting();
   QPen Pen(graph::Colour colour) const;
+  double EmPixels() const;
+  void PaintSymbols(double x, double y, std::string_view text);
 
   // The pen the painter holds, so that lines in one pen do not set it again.
   struct PenKey {
@@ -60,6 +74,7 @@ class QImageSurface final : public graph::BasicSurface {
   PenKey penKey_;
   std::unique_ptr<QPainter> painter_;
   QFont font_;
+  bool symbolFont_ = false;
 };
 
 // QColor of a program colour (blue in the high byte).

@@ -94,8 +94,79 @@ TEST(QImageSurface, FontNamesResolve) {
   EXPECT_EQ(s.FontName(), "Arial");
   s.SetFontName("No Such Font Velmora");
   EXPECT_NE(s.FontName(), "No Such Font Velmora");
+  // The arrow fonts are the surface's own.
   s.SetFontName("Marlett");
-  EXPECT_EQ(s.FontName() == "Marlett", QFontDatabase::hasFamily(QStringLiteral("Marlett")));
+  EXPECT_EQ(s.FontName(), "Marlett");
+  s.SetFontName("Webdings");
+  EXPECT_EQ(s.FontName(), "Webdings");
+}
+
+// The arrow heads of the symbol fonts, printed as the paper prints them.
+struct ArrowCase {
+  const char* font;
+  const char* glyph;
+  QPoint inside;   // a pixel the head covers, from the print position
+  QPoint outside;  // one beside its point that it leaves alone
+};
+
+class SymbolArrows : public ::testing::TestWithParam<ArrowCase> {};
+
+TEST_P(SymbolArrows, AreFilledHeadsOfTheFontSize) {
+  const ArrowCase& c = GetParam();
+  QImageSurface s(60, 60);
+  s.SetBackColor(0xFFFFFF);
+  s.Clear();
+  s.SetFontName(c.font);
+  s.SetFontSize(14);
+  s.SetForeColor(0);
+  // 14 points at 96 dots per inch: an em of 18.67 pixels, an advance of 0.68 em.
+  EXPECT_NEAR(s.TextWidth(c.glyph), 12.69, 0.01);
+  EXPECT_NEAR(s.TextHeight(c.glyph), 18.67, 0.01);
+  s.SetCurrentX(20);
+  s.SetCurrentY(20);
+  s.Print(c.glyph);
+  EXPECT_EQ(Pixel(s, 20 + c.inside.x(), 20 + c.inside.y()), 0u);
+  EXPECT_EQ(Pixel(s, 20 + c.outside.x(), 20 + c.outside.y()), 0xFFFFFFu);
+  // The cell is filled with the back colour unless the text is transparent;
+  // either way the head is solid and a few pixels big.
+  int dark = 0;
+  for (int y = 0; y < 60; ++y)
+    for (int x = 0; x < 60; ++x) dark += Pixel(s, x, y) == 0 ? 1 : 0;
+  EXPECT_GT(dark, 20);
+  EXPECT_LT(dark, 120);
+}
+
+INSTANTIATE_TEST_SUITE_P(Fonts, SymbolArrows,
+                         ::testing::Values(
+                             // Marlett "4": right; centre (8, 8), point at x + 12.5.
+                             ArrowCase{"Marlett", "4", {8, 8}, {13, 4}},
+                             // Marlett "5": up; centre (8, 11.2), point at y + 6.7.
+                             ArrowCase{"Marlett", "5", {8, 11}, {3, 7}},
+                             // Webdings draws the same heads for the same digits.
+                             ArrowCase{"Webdings", "4", {8, 8}, {13, 4}},
+                             ArrowCase{"Webdings", "5", {8, 11}, {3, 7}}));
+
+TEST(QImageSurface, AssignedAxesGetArrowHeadsAndNoMessage) {
+  QImageSurface s(200, 100);
+  s.SetBackColor(0xFFFFFF);
+  s.Clear();
+  platform::MemorySettingsStore settings;
+  settings.Store("Grid", "Ozna", "1");
+  settings.Store("Grid", "Axes", "1");
+  testing::RecordingMessageBox messages;
+  graph::GraphPaper paper(s, settings, messages);
+  graph::PaperView view{30, 100, 50, 0xBFBFBF, 0};
+  paper.DrawLines(view);
+  EXPECT_TRUE(messages.Boxes().empty());
+  // The right arrow head at the end of the X axis: dark above and below the
+  // axis line, inside the last 13 pixels.
+  EXPECT_EQ(Pixel(s, 192, 47), 0u);
+  EXPECT_EQ(Pixel(s, 192, 52), 0u);
+  // The up arrow head on the Y axis near the top: dark either side of it.
+  EXPECT_EQ(Pixel(s, 98, 7), 0u);
+  EXPECT_EQ(Pixel(s, 101, 7), 0u);
+  // Away from the heads only the axes are dark.
+  EXPECT_EQ(Pixel(s, 150, 45), 0xFFFFFFu);
 }
 
 TEST(QImageSurface, ThePicturePersistsAndACopyStaysAsItWas) {
