@@ -441,16 +441,23 @@ void FrmFunc::ShowStatusText(const std::string& text) {
 void FrmFunc::EnterInTxtY() {
   // A second Enter during a draw changes nothing, not even the texts.
   if (logic_->Drawing) return;
-  logic_->txtY.Text = S(txtY_->currentText());
+  TakeBoxes();
   logic_->DrawFromTxtY();
   Done();
 }
 
 void FrmFunc::EnterInTxtX() {
   if (logic_->Drawing) return;
-  logic_->txtX.Text = S(txtX_->currentText());
+  TakeBoxes();
   logic_->CrtajFJU();
   Done();
+}
+
+void FrmFunc::TakeBoxes() {
+  // The boxes as they stand: typing reaches the logic as it happens, but a
+  // text set by a program (a paste, an input method) may not have.
+  logic_->txtY.Text = S(txtY_->currentText());
+  logic_->txtX.Text = S(txtX_->currentText());
 }
 
 void FrmFunc::TypeClicked(int index) {

@@ -168,6 +168,7 @@ class FrmFunc : public QWidget, private graph::GraphHost {
   void ConnectWidgets();
   void EnterInTxtY();
   void EnterInTxtX();
+  void TakeBoxes();
   void TypeClicked(int index);
   void ListPicked(int index);
   void FunctionNamePicked(int index);

@@ -10,7 +10,7 @@ namespace {
 
 // The zoom of each picture: a grid step of about ten pixels, and on Trig
 // paper room for its "pi" labels.
-constexpr double kZoom[] = {10, 10, 14};
+constexpr double kZoom[] = {12, 12, 16};
 
 graph::Colour DefaultColour(std::string_view key) {
   return static_cast<graph::Colour>(std::stoul(std::string(platform::DefaultOf("Boje", key))));

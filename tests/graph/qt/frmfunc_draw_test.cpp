@@ -118,6 +118,29 @@ TEST_F(DrawTest, EnterInTxtXDrawsAParametricCurve) {
   EXPECT_EQ(window->txtX()->count(), 1);
 }
 
+TEST_F(DrawTest, EnterTakesTheTextAsItStandsInTheBox) {
+  Make();
+  // Set by a program, not typed: no edit signal reached the logic.
+  EditY()->setText(QStringLiteral("X/3"));
+  QTest::keyClick(window->txtY(), Qt::Key_Enter);  // the keypad's Enter
+  EXPECT_EQ(Logic().txtY.Text, "X/3");
+  EXPECT_EQ(Logic().KolkoFunkc, 1);
+  EXPECT_GT(CountPixels(Picture(), kGraphColour), 500);
+}
+
+TEST_F(DrawTest, TheWidgetsFollowADrawStartedThroughTheLogic) {
+  Make();
+  // As the frame runs an example: the logic's boxes, then its draw.
+  Logic().optFunk(3);
+  Logic().txtY.Text = "2";
+  Logic().CrtajPolar();
+  EXPECT_EQ(window->txtY()->currentText(), QStringLiteral("2"));
+  EXPECT_EQ(window->labY()->text(), QStringLiteral("R (K) ="));
+  EXPECT_TRUE(window->optFunkcije(3)->isChecked());
+  EXPECT_EQ(window->txtY()->count(), 1);
+  EXPECT_EQ(window->MS1()->rowCount(), 13);
+}
+
 TEST_F(DrawTest, TheScreenIsRepaintedAtScreenRateNotPerSample) {
   Make();
   TypeAndEnter(QStringLiteral("SinX"));

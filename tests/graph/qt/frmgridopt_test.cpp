@@ -128,15 +128,15 @@ TEST(PaperPictures, AreDrawnByTheProgram) {
   const QImage standard = graph_qt::PaperPicture(0);
   const QImage polar = graph_qt::PaperPicture(1);
   const QImage trig = graph_qt::PaperPicture(2);
-  EXPECT_EQ(standard.size(), QSize(96, 72));
+  EXPECT_EQ(standard.size(), QSize(120, 90));
   EXPECT_NE(standard, polar);
   EXPECT_NE(standard, trig);
   EXPECT_NE(polar, trig);
-  // Standard: a grid line every 10 pixels from the axes.
-  EXPECT_EQ(standard.pixel(58, 10) & 0xFFFFFF, Rgb(kGridColour));
+  // Standard: a grid line every 12 pixels from the axes.
+  EXPECT_EQ(standard.pixel(72, 10) & 0xFFFFFF, Rgb(kGridColour));
   // The axes in black through the middle.
-  EXPECT_EQ(standard.pixel(48, 5) & 0xFFFFFF, 0u);
-  EXPECT_EQ(polar.pixel(5, 36) & 0xFFFFFF, 0u);
+  EXPECT_EQ(standard.pixel(60, 5) & 0xFFFFFF, 0u);
+  EXPECT_EQ(polar.pixel(5, 45) & 0xFFFFFF, 0u);
 }
 
 }  // namespace
