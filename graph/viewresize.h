@@ -15,7 +15,8 @@ class GraphWindow;
 // surface that the old picture did not cover shows the back colour. When
 // the size has settled, the window is painted again at its new size (paper
 // and, with AutoRedraw on, the functions), unless that would erase functions
-// that cannot come back (AutoRedraw off) or a draw is running.
+// that cannot come back (AutoRedraw off) or a draw is running. A window with
+// no functions is only paper, which the window layer repaints at once.
 class ViewResize {
  public:
   struct Plan {

@@ -506,17 +506,24 @@ void FrmFunc::MouseReleased() {
 
 // ---- Size ------------------------------------------------------------------------------------
 
-void FrmFunc::SurfaceResized(int oldWidth, int oldHeight, int width, int height) {
+void FrmFunc::SurfaceResized(int /*oldWidth*/, int /*oldHeight*/, int width, int height) {
+  // The surface's own size is the size the picture had: the widget's old
+  // size is not valid at its first layout.
   width = std::max(width, 1);
   height = std::max(height, 1);
   const int fromWidth = static_cast<int>(surface_->ScaleWidth());
   const int fromHeight = static_cast<int>(surface_->ScaleHeight());
   if (fromWidth == width && fromHeight == height) return;
-  static_cast<void>(oldWidth);
-  static_cast<void>(oldHeight);
   const auto plan = graph::ViewResize::PlanFor(fromWidth, fromHeight, width, height);
   surface_->Resize(width, height, plan.pictureDx, plan.pictureDy);
   graph::ViewResize::Apply(*logic_, plan);
+  if (!logic_->Drawing && logic_->KolkoFunkc == 0) {
+    // Only the paper: it costs well under a millisecond, so an empty window
+    // follows the size at once.
+    graph::ViewResize::Repaint(*logic_, *services_.settings);
+    pDraw_->update();
+    return;
+  }
   settle_->start();
 }
 

@@ -212,6 +212,30 @@ TEST_F(CommandsTest, AResizeKeepsTheOriginInTheMiddleAndRedraws) {
   EXPECT_EQ(window->LblChart()->text(), QStringLiteral("   x = 1, y = 0.5"));
 }
 
+TEST_F(CommandsTest, AnEmptyWindowFollowsItsSizeAtOnce) {
+  Make();
+  window->pDraw()->setFixedSize(700, 500);
+  QApplication::processEvents();
+  const QImage picture = Picture();
+  EXPECT_EQ(picture.size(), QSize(700, 500));
+  // The paper reaches the new edges: the X axis through the middle row.
+  EXPECT_EQ(picture.pixel(2, 250) & 0xFFFFFF, 0u);
+  EXPECT_EQ(picture.pixel(697, 250) & 0xFFFFFF, 0u);
+}
+
+TEST_F(CommandsTest, WithAutoRedrawOffAResizeKeepsTheCurves) {
+  settings.Store("Grid", "Autored", "0");
+  Make();
+  TypeAndEnter(QStringLiteral("1"));
+  window->pDraw()->setFixedSize(800, 600);
+  QApplication::processEvents();
+  window->SettleSize();
+  // The level line y = 1 moved with the origin (300, 200) -> (400, 300).
+  EXPECT_EQ(Picture().pixel(400, 270) & 0xFFFFFF, Rgb(kGraphColour));
+  EXPECT_EQ(Logic().KolkoFunkc, 1);
+  EXPECT_TRUE(messages.Boxes().empty());
+}
+
 TEST_F(CommandsTest, AFunctionNameFromC1GoesToTheCaret) {
   Make();
   QTest::keyClicks(window->txtY(), QStringLiteral("2*"));
