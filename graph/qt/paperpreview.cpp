@@ -25,6 +25,7 @@ QImage PaperPicture(int type, int width, int height) {
   if (type == 2) {
     settings.Store("Grid", "Trigo", "1");
     settings.Store("Grid", "BrojX", "1");
+    settings.Store("Grid", "BrojBoja", "0");  // the "pi" labels in the axes' colour, to be read
   }
   platform::SilentMessageBox messages;
   QImageSurface surface(width, height);

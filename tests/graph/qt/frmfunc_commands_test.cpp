@@ -1,6 +1,7 @@
 // The graph window's commands through its widgets: Clear Grid, colours,
 // line width, the readout under the mouse, Sav1, copy, Swap, resize.
 #include <QClipboard>
+#include <QDir>
 #include <QFile>
 #include <QImageReader>
 #include <QLabel>
@@ -136,7 +137,9 @@ TEST_F(CommandsTest, Sav1WritesABitmapAndAsksBeforeReplacing) {
   EXPECT_TRUE(window->Sav1());
   EXPECT_EQ(QImage(path).convertToFormat(QImage::Format_RGB32),
             Picture().convertToFormat(QImage::Format_RGB32));
-  EXPECT_FALSE(QFile::exists(path + QStringLiteral(".tmp")));
+  // Written through a temporary file that was renamed: nothing else is left.
+  EXPECT_EQ(QDir(dir.path()).entryList(QDir::Files, QDir::Name),
+            (QStringList{QStringLiteral("GraphLog.txt"), QStringLiteral("graph.bmp")}));
 }
 
 TEST_F(CommandsTest, Sav1IntoAMissingFolderSaysSo) {
