@@ -5,6 +5,8 @@
 #include <QFile>
 #include <QImageReader>
 #include <QLabel>
+#include <QMdiArea>
+#include <QMdiSubWindow>
 #include <QPlainTextEdit>
 #include <QTimer>
 
@@ -280,6 +282,31 @@ TEST_F(CommandsTest, ACloseDuringADrawWaitsForTheDrawToStop) {
   QApplication::processEvents();
   EXPECT_EQ(frame.closing.size(), 1u);
   EXPECT_FALSE(window->isVisible());
+}
+
+TEST_F(CommandsTest, ASubWindowClosedDuringADrawClosesWhenTheDrawStops) {
+  graph_qt::FrmFuncServices services;
+  services.settings = &settings;
+  services.messages = &messages;
+  services.input = &input;
+  services.frame = &frame;
+  QMdiArea area;
+  auto* child = new graph_qt::FrmFunc(services);
+  QMdiSubWindow* sub = area.addSubWindow(child);
+  sub->setAttribute(Qt::WA_DeleteOnClose);
+  area.resize(900, 700);
+  area.show();
+  ASSERT_TRUE(QTest::qWaitForWindowExposed(&area));
+  QPointer<QMdiSubWindow> alive(sub);
+  QTimer::singleShot(0, sub, [&] { sub->close(); });
+  child->Logic().txtY.Text = "X/2";
+  child->DrawFunction();
+  EXPECT_TRUE(frame.closing.empty()) << "the window waited for the draw";
+  ASSERT_FALSE(alive.isNull());
+  QApplication::processEvents();
+  QApplication::sendPostedEvents(nullptr, QEvent::DeferredDelete);
+  EXPECT_EQ(frame.closing.size(), 1u);
+  EXPECT_TRUE(alive.isNull()) << "the sub-window closed and was deleted";
 }
 
 }  // namespace
