@@ -5,26 +5,29 @@
 namespace velmora::app {
 
 // What the frame's commands ask of a graph window: its logic, and the
-// routines that belong to the window itself because they need its widgets
-// or dialogs (colour chooser, clipboard, the options dialog). The Qt frame
-// adapts its graph windows to this; the frame's tests use a fake over the
-// logic alone.
+// routines that belong to the window itself because they need its widgets,
+// its dialogs or its questions (colour chooser, clipboard, the clear
+// commands, the options dialog). The Qt frame adapts its graph windows to
+// this; the frame's tests use a fake over the logic alone.
 class GraphChild {
  public:
   virtual ~GraphChild() = default;
   virtual graph::GraphWindow& Logic() = 0;
 
-  virtual void DrawFunction() = 0;  // Enter in txtY: the draw of the current type
+  virtual void DrawFunction() = 0;  // mnuDrawFunction, the toolbar's "Draw Graph"
   virtual void SwapYX() = 0;
   virtual void Kopirajgraf() = 0;  // copy graph to the clipboard
   virtual void Sav1() = 0;         // save the picture
-  virtual void mnuBojeBack() = 0;
-  virtual void mnuBojeGrid() = 0;
-  virtual void mnuBojeAxes() = 0;
-  virtual void mnuBojeGraph() = 0;
-  virtual void mnuBojeDef() = 0;
-  virtual void Sacboje() = 0;  // store the window's colours
+  // A Color menu entry, 0 background, 1 grid, 2 axes, 3 graph, 4 default:
+  // the colour chosen, stored with Sacboje and the functions drawn again.
+  virtual void ColourMenu(int index) = 0;
   virtual void mnuPlotWidth() = 0;
+  virtual void ClearAll() = 0;
+  virtual void ClearScreen() = 0;
+  virtual void mnuclhistory() = 0;
+  virtual void ClearGrid() = 0;
+  virtual void RedrawGrid() = 0;
+  virtual void ClearFju() = 0;
   virtual void OpenPlottingOptions() = 0;
   // The window shows what its logic now holds.
   virtual void SyncFromLogic() = 0;

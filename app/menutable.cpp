@@ -91,8 +91,7 @@ constexpr std::array kColor{
     MenuItem{"mnuColor", 1, "G&rid...", "", C::ColorGrid, E::NeedsWindow},
     MenuItem{"mnuColor", 2, "&Axes...", "", C::ColorAxes, E::NeedsWindow},
     MenuItem{"mnuColor", 3, "&Graph...", "", C::ColorGraph, E::NeedsWindow},
-    Sep("mnuColor", 4),
-    MenuItem{"mnuColor", 5, "&Default", "", C::ColorDefault, E::NeedsWindow},
+    MenuItem{"mnuColor", 4, "&Default", "", C::ColorDefault, E::NeedsWindow},
 };
 
 constexpr std::array kGraph{

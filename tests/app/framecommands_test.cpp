@@ -12,9 +12,6 @@
 namespace velmora::app {
 namespace {
 
-using platform::MsgButtons;
-using platform::MsgIcon;
-using platform::MsgResult;
 using testing::RecordingSurface;
 
 // A graph window without widgets: the logic on a recording surface, and the
@@ -23,30 +20,21 @@ class FakeChild final : public GraphChild {
  public:
   FakeChild() {
     graph::GraphServices services = graph::StandardServices(settings, messages, input);
-    history =
-        std::make_unique<graph::HistoryLog>(::testing::TempDir() + "/velmora_framecommands_GraphLog.txt");
-    history->Clear();
-    services.history = history.get();
     logic = std::make_unique<graph::GraphWindow>(surface, std::move(services));
   }
   graph::GraphWindow& Logic() override { return *logic; }
-  void DrawFunction() override {
-    calls.push_back("DrawFunction");
-    logic->DrawFromTxtY();
-  }
+  void DrawFunction() override { calls.push_back("DrawFunction"); }
   void SwapYX() override { calls.push_back("SwapYX"); }
   void Kopirajgraf() override { calls.push_back("Kopirajgraf"); }
   void Sav1() override { calls.push_back("Sav1"); }
-  void mnuBojeBack() override { calls.push_back("mnuBojeBack"); }
-  void mnuBojeGrid() override {
-    calls.push_back("mnuBojeGrid");
-    logic->GridColor = newGridColour;
-  }
-  void mnuBojeAxes() override { calls.push_back("mnuBojeAxes"); }
-  void mnuBojeGraph() override { calls.push_back("mnuBojeGraph"); }
-  void mnuBojeDef() override { calls.push_back("mnuBojeDef"); }
-  void Sacboje() override { calls.push_back("Sacboje"); }
+  void ColourMenu(int index) override { calls.push_back("ColourMenu(" + std::to_string(index) + ")"); }
   void mnuPlotWidth() override { calls.push_back("mnuPlotWidth"); }
+  void ClearAll() override { calls.push_back("ClearAll"); }
+  void ClearScreen() override { calls.push_back("ClearScreen"); }
+  void mnuclhistory() override { calls.push_back("mnuclhistory"); }
+  void ClearGrid() override { calls.push_back("ClearGrid"); }
+  void RedrawGrid() override { calls.push_back("RedrawGrid"); }
+  void ClearFju() override { calls.push_back("ClearFju"); }
   void OpenPlottingOptions() override { calls.push_back("OpenPlottingOptions"); }
   void SyncFromLogic() override { ++syncs; }
 
@@ -68,16 +56,14 @@ class FakeChild final : public GraphChild {
   platform::MemorySettingsStore settings;
   testing::RecordingMessageBox messages;
   testing::ScriptedInputBox input;
-  std::unique_ptr<graph::HistoryLog> history;
   std::unique_ptr<graph::GraphWindow> logic;
   std::vector<std::string> calls;
   int syncs = 0;
-  graph::Colour newGridColour = 0x123456;
 };
 
 struct Fixture {
   FakeChild child;
-  FrameCommands commands{child.settings, child.messages, child.history.get()};
+  FrameCommands commands{child.settings};
 };
 
 TEST(FrameCommands, WithNoActiveWindowEveryWindowCommandDoesNothing) {
@@ -118,122 +104,6 @@ TEST(FrameCommands, WindowSideRoutinesAreCalledByName) {
   }
 }
 
-TEST(FrameCommands, ClearGridWithAutoRedrawOnRedrawsWithoutAQuestion) {
-  Fixture f;
-  f.child.Draw("SinX");
-  ASSERT_EQ(f.child.logic->KolkoFunkc, 1);
-  f.child.surface.ClearOps();
-  f.commands.Run(Command::ClearGrid, &f.child);
-  EXPECT_TRUE(f.child.messages.Boxes().empty());
-  EXPECT_EQ(f.child.surface.Ops().front().kind, RecordingSurface::Kind::Clear);
-  EXPECT_GT(f.child.CurveLines(), 500u);  // the curve is back
-  EXPECT_EQ(f.child.logic->KolkoFunkc, 1);
-}
-
-TEST(FrameCommands, ClearGridWithAutoRedrawOffAsksAndOkClearsToBlank) {
-  Fixture f;
-  f.child.settings.Store("Grid", "Autored", "0");
-  f.child.Draw("SinX");
-  f.child.surface.ClearOps();
-  f.child.messages.Answer(MsgResult::Ok);
-  f.commands.Run(Command::ClearGrid, &f.child);
-  ASSERT_EQ(f.child.messages.Boxes().size(), 1u);
-  const auto& box = f.child.messages.Boxes()[0];
-  EXPECT_EQ(box.text, "Your current graph(s) will be erased.\nContinue?");
-  EXPECT_EQ(box.title, "Clear");
-  EXPECT_EQ(box.buttons, MsgButtons::OkCancel);
-  EXPECT_EQ(f.child.CurveLines(), 0u);  // nothing drawn again
-  ASSERT_EQ(f.child.surface.Ops().size(), 1u);
-  EXPECT_EQ(f.child.surface.Ops()[0].kind, RecordingSurface::Kind::Clear);
-}
-
-TEST(FrameCommands, ClearGridWithAutoRedrawOffAndCancelLeavesThePicture) {
-  Fixture f;
-  f.child.settings.Store("Grid", "Autored", "0");
-  f.child.Draw("SinX");
-  f.child.surface.ClearOps();
-  f.child.messages.Answer(MsgResult::Cancel);
-  f.commands.Run(Command::ClearGrid, &f.child);
-  EXPECT_EQ(f.child.messages.Boxes().size(), 1u);
-  EXPECT_TRUE(f.child.surface.Ops().empty());
-}
-
-TEST(FrameCommands, ClearGridWithNoFunctionDrawnNeverAsks) {
-  Fixture f;
-  f.child.settings.Store("Grid", "Autored", "0");
-  f.commands.Run(Command::ClearGrid, &f.child);
-  EXPECT_TRUE(f.child.messages.Boxes().empty());
-}
-
-TEST(FrameCommands, RedrawGridPaintsThePaperAndTheFunctionsAgain) {
-  Fixture f;
-  f.child.Draw("CosX");
-  f.child.surface.ClearOps();
-  f.commands.Run(Command::RedrawGrid, &f.child);
-  EXPECT_TRUE(f.child.messages.Boxes().empty());
-  EXPECT_FALSE(f.child.surface.LinesIn(f.child.logic->GridColor).empty());
-  EXPECT_GT(f.child.CurveLines(), 500u);
-}
-
-TEST(FrameCommands, ClearAllAsksYesNoAndYesEmptiesTheLists) {
-  Fixture f;
-  f.child.Draw("SinX");
-  f.child.messages.Answer(MsgResult::No);
-  f.commands.Run(Command::ClearAll, &f.child);
-  EXPECT_EQ(f.child.logic->KolkoFunkc, 1);
-  f.child.messages.Answer(MsgResult::Yes);
-  f.commands.Run(Command::ClearAll, &f.child);
-  ASSERT_EQ(f.child.messages.Boxes().size(), 2u);
-  EXPECT_EQ(f.child.messages.Boxes()[1].text, "Clear graphs and equation lists?");
-  EXPECT_EQ(f.child.messages.Boxes()[1].title, "Clear All");
-  EXPECT_EQ(f.child.messages.Boxes()[1].buttons, MsgButtons::YesNo);
-  EXPECT_EQ(f.child.logic->KolkoFunkc, 0);
-  EXPECT_TRUE(f.child.logic->txtY.List.empty());
-  EXPECT_EQ(f.child.logic->txtY.Text, "");
-  // Nothing drawn: no question.
-  f.commands.Run(Command::ClearAll, &f.child);
-  EXPECT_EQ(f.child.messages.Boxes().size(), 2u);
-}
-
-TEST(FrameCommands, ClearScreenKeepsTheListsAndResetsZezaj) {
-  Fixture f;
-  f.child.Draw("SinX");
-  f.commands.Run(Command::ClearScreen, &f.child);
-  EXPECT_TRUE(f.child.messages.Boxes().empty());
-  EXPECT_EQ(f.child.CurveLines(), 0u);
-  EXPECT_EQ(f.child.logic->txtY.List.size(), 1u);
-  EXPECT_FALSE(f.child.logic->Zezaj);
-}
-
-TEST(FrameCommands, ClearFunctionAsksAndEmptiesTheBoxes) {
-  Fixture f;
-  f.child.logic->optFunk(graph::kParametric);
-  f.child.logic->txtY.Text = "SinK";
-  f.child.logic->txtX.Text = "CosK";
-  f.child.messages.Answer(MsgResult::Ok);
-  f.commands.Run(Command::ClearFunction, &f.child);
-  ASSERT_EQ(f.child.messages.Boxes().size(), 1u);
-  EXPECT_EQ(f.child.messages.Boxes()[0].text, "Function expression will be erased.\nContinue?");
-  EXPECT_EQ(f.child.messages.Boxes()[0].title, "Clear Function");
-  EXPECT_EQ(f.child.logic->txtY.Text, "");
-  EXPECT_EQ(f.child.logic->txtX.Text, "");
-}
-
-TEST(FrameCommands, ClearHistoryAsksThenEmptiesTheFileAndTheWindowsCopy) {
-  Fixture f;
-  f.child.Draw("SinX");
-  ASSERT_FALSE(f.child.history->ReadAll().empty());
-  f.child.logic->rtb = "something";
-  f.child.messages.Answer(MsgResult::Yes);
-  f.commands.Run(Command::ClearHistory, &f.child);
-  ASSERT_EQ(f.child.messages.Boxes().size(), 1u);
-  EXPECT_EQ(f.child.messages.Boxes()[0].text, "Clear Function History?");
-  EXPECT_EQ(f.child.messages.Boxes()[0].icon, MsgIcon::Question);
-  EXPECT_EQ(f.child.messages.Boxes()[0].buttons, MsgButtons::YesNo);
-  EXPECT_TRUE(f.child.history->ReadAll().empty());
-  EXPECT_EQ(f.child.logic->rtb, "");
-}
-
 TEST(FrameCommands, ZoomReplaysTheFunctionsWithAutoRedrawAndLeavesBlankPaperWithout) {
   for (const bool autored : {true, false}) {
     Fixture f;
@@ -258,18 +128,6 @@ TEST(FrameCommands, MoveRightAsksAndShowsItsStatusText) {
   f.commands.Run(Command::MoveCenter, &f.child);
   EXPECT_EQ(f.child.logic->MovedText, "Moved:");
   EXPECT_EQ(f.child.logic->MoveX, 0);
-}
-
-TEST(FrameCommands, ColoursAreStoredOnlyWhenTheyChanged) {
-  Fixture f;
-  f.commands.Run(Command::ColorGrid, &f.child);
-  EXPECT_EQ(f.child.calls, (std::vector<std::string>{"mnuBojeGrid", "Sacboje"}));
-  f.child.calls.clear();
-  f.commands.Run(Command::ColorGrid, &f.child);  // the same colour again
-  EXPECT_EQ(f.child.calls, std::vector<std::string>{"mnuBojeGrid"});
-  f.child.calls.clear();
-  f.commands.Run(Command::ColorBack, &f.child);  // cancelled: nothing changed
-  EXPECT_EQ(f.child.calls, std::vector<std::string>{"mnuBojeBack"});
 }
 
 TEST(FrameCommands, FunctionTypeSetsTheWindowsType) {
@@ -309,9 +167,10 @@ TEST(FrameCommands, CommandsWaitWhileTheWindowDraws) {
   Fixture f;
   f.child.Draw("SinX");
   f.child.logic->Drawing = true;
-  f.commands.Run(Command::ClearAll, &f.child);
-  f.commands.Run(Command::ClearGrid, &f.child);
   f.commands.Run(Command::ZoomIn, &f.child);
+  f.commands.Run(Command::MoveCenter, &f.child);
+  f.commands.LoadExample(graph::ExampleMenus()[0].entries[0], &f.child);
+  f.commands.DrawRecent("CosX ; K | Cartesian", &f.child);
   f.commands.Run(Command::TypePolar, &f.child);
   EXPECT_TRUE(f.child.messages.Boxes().empty());
   EXPECT_EQ(f.child.logic->Zoom, 30);

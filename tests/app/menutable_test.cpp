@@ -71,7 +71,7 @@ const Row kRows[] = {
     {"&Color", "mnuColor", 1, "G&rid...", 'r'},
     {"&Color", "mnuColor", 2, "&Axes...", 'A'},
     {"&Color", "mnuColor", 3, "&Graph...", 'G'},
-    {"&Color", "mnuColor", 5, "&Default", 'D'},
+    {"&Color", "mnuColor", 4, "&Default", 'D'},
     {"&Graph", "mnuOptions", -1, "Plotting &Options...", 'O'},
     {"&Tools", "mnuTools", 0, "&Evaluator...", 'E'},
     {"&Tools", "mnuTools", 1, "&Point Evaluate...", 'P'},
