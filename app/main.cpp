@@ -1,18 +1,104 @@
-// The Velmora program. Until the frame with its graph windows exists, the
-// program shows its main window with an empty document area.
+// The Velmora program: the main frame with its graph windows.
+//
+// Test hooks (for the test suite, the benchmarks and `make screenshots`;
+// a user never needs them):
+//   VELMORA_TEST_BOXES=stderr  message boxes are written to standard error
+//                              and answered with their default button;
+//   VELMORA_STARTUP_PROBE=1    once "Graph 1" is shown, "startup: ready" is
+//                              written to standard error and the program ends;
+//   VELMORA_SCREENSHOTS=DIR    the frame with three example windows and the
+//                              Plotting Options dialog are saved as PNG files
+//                              into DIR, then the program ends.
 #include <QApplication>
-#include <QMainWindow>
-#include <QMdiArea>
+#include <QDir>
+#include <QFileInfo>
+#include <QTimer>
+#include <cstdio>
+#include <memory>
+
+#include "app/frmmain.h"
+#include "app/screenshots.h"
+#include "app/singleinstance.h"
+#include "app/toolicons.h"
+#include "platform/printingmessagebox.h"
+#include "platform/qt/qtcolordialog.h"
+#include "platform/qt/qtfiledialog.h"
+#include "platform/qt/qtinputbox.h"
+#include "platform/qt/qtmessagebox.h"
+#include "platform/qt/qtsettingsstore.h"
+#include "platform/qt/qtshelllauncher.h"
+
+namespace {
+
+// The documentation the Help menu opens: the installed copy, or the one
+// of a source tree the program was built in.
+QString ReadMePath() {
+  const QDir bin(QCoreApplication::applicationDirPath());
+  for (const QString& candidate : {QStringLiteral("../share/doc/velmora/README.md"), QStringLiteral("../README.md"),
+                                   QStringLiteral("../../README.md")}) {
+    if (QFileInfo::exists(bin.filePath(candidate))) return QDir::cleanPath(bin.filePath(candidate));
+  }
+  return QDir::cleanPath(bin.filePath(QStringLiteral("../share/doc/velmora/README.md")));
+}
+
+}  // namespace
 
 int main(int argc, char** argv) {
   QApplication app(argc, argv);
   QApplication::setOrganizationName(QStringLiteral("Velmora"));
   QApplication::setApplicationName(QStringLiteral("Velmora"));
+  QApplication::setApplicationVersion(QStringLiteral(VELMORA_VERSION));
+  QApplication::setWindowIcon(velmora::app::ProgramIcon());
 
-  QMainWindow frame;
-  frame.setWindowTitle(QStringLiteral("Velmora"));
-  frame.setCentralWidget(new QMdiArea(&frame));
-  frame.resize(1024, 700);
+  const QString screenshots = qEnvironmentVariable("VELMORA_SCREENSHOTS");
+  const bool probe = qEnvironmentVariable("VELMORA_STARTUP_PROBE") == QLatin1String("1");
+  std::unique_ptr<velmora::platform::MessageBox> messages;
+  if (qEnvironmentVariable("VELMORA_TEST_BOXES") == QLatin1String("stderr") || !screenshots.isEmpty()) {
+    messages = std::make_unique<velmora::platform::PrintingMessageBox>();
+  } else {
+    messages = std::make_unique<velmora::qtplatform::QtMessageBox>();
+  }
+
+  // A second start warns and ends at once; the first goes on untouched.
+  velmora::app::SingleInstance instance;
+  if (!instance.TryLock()) {
+    messages->Show(QApplication::applicationName().toStdString() + " is already running!", "Velmora Warning",
+                   velmora::platform::MsgIcon::Exclamation);
+    return 0;
+  }
+
+  velmora::qtplatform::QtSettingsStore settings;
+  velmora::qtplatform::QtInputBox input;
+  velmora::qtplatform::QtColorDialog colours;
+  velmora::qtplatform::QtFileDialog files;
+  velmora::qtplatform::QtShellLauncher shell;
+  velmora::app::FrameServices services;
+  services.settings = &settings;
+  services.messages = messages.get();
+  services.input = &input;
+  services.colours = &colours;
+  services.files = &files;
+  services.shell = &shell;
+  services.programFolder = QCoreApplication::applicationDirPath();
+  services.readMePath = ReadMePath();
+
+  velmora::app::FrmMain frame(services);
   frame.show();
+  QStringList arguments = QCoreApplication::arguments();
+  arguments.removeFirst();
+  frame.Load(arguments);
+
+  if (!screenshots.isEmpty()) {
+    QTimer::singleShot(0, &frame, [&frame, screenshots] {
+      const int failures = velmora::app::TakeScreenshots(frame, screenshots);
+      QCoreApplication::exit(failures == 0 ? 0 : 1);
+    });
+  } else if (probe) {
+    QTimer::singleShot(0, &frame, [&frame] {
+      std::fprintf(stderr, "startup: ready %s\n", frame.Windows().WindowCount() > 0 ? "Graph 1" : "no window");
+      std::fflush(stderr);
+      QCoreApplication::exit(0);
+    });
+  }
   return QApplication::exec();
 }

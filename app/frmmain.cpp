@@ -1,0 +1,335 @@
+#include "app/frmmain.h"
+
+#include <QAction>
+#include <QApplication>
+#include <QCloseEvent>
+#include <QDir>
+#include <QFileInfo>
+#include <QMdiArea>
+#include <QMdiSubWindow>
+#include <QTimer>
+#include <cstdio>
+
+#include "app/framemenus.h"
+#include "app/framestatusbar.h"
+#include "app/frametoolbars.h"
+#include "app/graphchildadapter.h"
+#include "app/statuspanels.h"
+#include "app/toolbarlayout.h"
+#include "app/toolicons.h"
+#include "graph/examplecatalogue.h"
+#include "graph/qt/frmfunc.h"
+
+#ifndef VELMORA_VERSION
+#define VELMORA_VERSION "0.1.0"
+#endif
+
+namespace velmora::app {
+namespace {
+
+std::string HistoryPath(const std::string& given) {
+  return given.empty() ? graph::HistoryLog::DefaultPath() : given;
+}
+
+}  // namespace
+
+FrmMain::FrmMain(FrameServices services, QWidget* parent)
+    : QMainWindow(parent),
+      services_(std::move(services)),
+      history_(HistoryPath(services_.historyPath)),
+      recent_(*services_.settings, platform::RecentList::kFunctions),
+      windows_(*services_.messages, *this),
+      commands_(*services_.settings) {
+  BuildFrame();
+}
+
+FrmMain::~FrmMain() {
+  // The graph windows go with the frame's widgets, after this body: they
+  // must not reach the frame's members on the way.
+  area_->disconnect(this);
+  for (const Child& child : children_) {
+    if (child.window) child.window->disconnect(this);
+  }
+}
+
+void FrmMain::BuildFrame() {
+  setObjectName(QStringLiteral("frmMain"));
+  setWindowTitle(QStringLiteral("Velmora"));
+  setWindowIcon(ProgramIcon());
+  area_ = new QMdiArea(this);
+  area_->setObjectName(QStringLiteral("MDIArea"));
+  area_->setHorizontalScrollBarPolicy(Qt::ScrollBarAsNeeded);
+  area_->setVerticalScrollBarPolicy(Qt::ScrollBarAsNeeded);
+  setCentralWidget(area_);
+  menus_ = new FrameMenus(menuBar(), this);
+  toolbars_ = new FrameToolbars(this);
+  status_ = new FrameStatusBar(this);
+  setStatusBar(status_);
+  resize(1024, 720);
+
+  connect(menus_, &FrameMenus::CommandChosen, this, &FrmMain::Run);
+  connect(menus_, &FrameMenus::RecentChosen, this, &FrmMain::ChooseRecent);
+  connect(menus_, &FrameMenus::ExampleChosen, this, &FrmMain::ChooseExample);
+  connect(menus_, &FrameMenus::WindowMenuAboutToShow, this, &FrmMain::FillWindowList);
+  connect(menus_, &FrameMenus::WindowChosen, this, [this](int position) {
+    if (position >= 0 && position < static_cast<int>(children_.size())) Activate(children_[position].window);
+  });
+  connect(toolbars_, &FrameToolbars::CommandChosen, this, &FrmMain::Run);
+  connect(area_, &QMdiArea::subWindowActivated, this, &FrmMain::WindowActivated);
+}
+
+void FrmMain::Load(const QStringList& arguments) {
+  recent_.LoadRecent();
+  recent_.ShowRecent();
+  toolbars_->Apply(LoadToolbars(*services_.settings));
+  helpFile_ = !services_.programFolder.isEmpty() &&
+              QFileInfo::exists(QDir(services_.programFolder).filePath(QString::fromUtf8(kHelpFile.data())));
+  Run(Command::New);
+  if (QAction* exit = menus_->Action(QString::fromUtf8(kExitName.data()), kExitIndex)) {
+    exit->setText(QString::fromUtf8(kExitCaption.data(), static_cast<qsizetype>(kExitCaption.size())));
+  }
+  // A command line is a matrix file for the Matrix Calculator, which this
+  // version does not have: the file is accepted and left unopened.
+  if (!arguments.isEmpty()) {
+    const QByteArray file = arguments.join(QLatin1Char(' ')).toLocal8Bit();
+    std::fprintf(stderr,
+                 "velmora: the Matrix Calculator is not part of this version; the matrix file \"%s\" "
+                 "was not opened.\n",
+                 file.constData());
+  }
+  UpdateStatus();
+}
+
+void FrmMain::Run(Command command) {
+  switch (command) {
+    case Command::New: NewGraphWindow(); break;
+    case Command::Close:
+      if (QMdiSubWindow* sub = area_->currentSubWindow()) sub->close();
+      break;
+    case Command::Exit: Exit(); return;
+    case Command::ViewBand1: ToggleBand(1); break;
+    case Command::ViewBand2: ToggleBand(2); break;
+    case Command::ViewBand3: ToggleBand(3); break;
+    case Command::ViewBand4: ToggleBand(4); break;
+    case Command::WindowCascade: area_->cascadeSubWindows(); break;
+    case Command::WindowTile: area_->tileSubWindows(); break;
+    case Command::HelpContents:
+      OpenHelp(QDir(services_.programFolder).filePath(QString::fromUtf8(kHelpFile.data())));
+      break;
+    case Command::HelpWeb: OpenHelp(services_.readMePath); break;
+    case Command::About: About(); break;
+    default: {
+      graph_qt::FrmFunc* active = ActiveGraphWindow();
+      if (active == nullptr) {
+        commands_.Run(command, nullptr);
+        break;
+      }
+      GraphChildAdapter child(*active);
+      commands_.Run(command, &child);
+      break;
+    }
+  }
+  UpdateStatus();
+}
+
+void FrmMain::NewGraphWindow() { windows_.NewGraphWindow(); }
+
+void FrmMain::Exit() {
+  close();
+  // The program ends at once, whatever other windows are open.
+  QCoreApplication::quit();
+}
+
+void FrmMain::CreateGraphWindow(const std::string& caption) {
+  graph_qt::FrmFuncServices services;
+  services.settings = services_.settings;
+  services.messages = services_.messages;
+  services.input = services_.input;
+  services.colours = services_.colours;
+  services.files = services_.files;
+  services.recent = &recent_;
+  services.history = &history_;
+  services.activeWindow = this;
+  services.frame = this;
+  auto* window = new graph_qt::FrmFunc(services);
+  const QString tag = QString::fromStdString(caption);
+  window->setWindowTitle(tag);
+  children_.push_back({window, tag});
+  // A window destroyed without its close (never expected) is counted out
+  // all the same.
+  connect(window, &QObject::destroyed, this, [this](QObject* gone) {
+    for (auto it = children_.begin(); it != children_.end(); ++it) {
+      if (it->window.isNull() || it->window.data() == gone) {
+        children_.erase(it);
+        windows_.WindowClosed();
+        QTimer::singleShot(0, this, &FrmMain::UpdateStatus);
+        return;
+      }
+    }
+  });
+  QMdiSubWindow* sub = area_->addSubWindow(window);
+  sub->setWindowIcon(ProgramIcon());
+  sub->show();
+  area_->setActiveSubWindow(sub);
+}
+
+void FrmMain::WindowClosing(graph_qt::FrmFunc* window) {
+  for (auto it = children_.begin(); it != children_.end(); ++it) {
+    if (it->window.data() == window) {
+      window->disconnect(this);
+      children_.erase(it);
+      windows_.WindowClosed();
+      // The next window becomes active after this one has gone.
+      QTimer::singleShot(0, this, &FrmMain::UpdateStatus);
+      return;
+    }
+  }
+}
+
+graph_qt::FrmFunc* FrmMain::ActiveGraphWindow() const {
+  // The current window stays the active child while a dialog or another
+  // program has the focus.
+  QMdiSubWindow* sub = area_->currentSubWindow();
+  if (sub == nullptr) return nullptr;
+  auto* window = qobject_cast<graph_qt::FrmFunc*>(sub->widget());
+  if (window == nullptr) return nullptr;
+  for (const Child& child : children_) {
+    if (child.window.data() == window) return window;
+  }
+  return nullptr;  // closing
+}
+
+std::vector<graph_qt::FrmFunc*> FrmMain::GraphWindows() const {
+  std::vector<graph_qt::FrmFunc*> windows;
+  for (const Child& child : children_) {
+    if (child.window) windows.push_back(child.window.data());
+  }
+  return windows;
+}
+
+QString FrmMain::Tag(const graph_qt::FrmFunc* window) const {
+  for (const Child& child : children_) {
+    if (child.window.data() == window) return child.tag;
+  }
+  return {};
+}
+
+QMdiSubWindow* FrmMain::SubWindowOf(const graph_qt::FrmFunc* window) const {
+  for (QMdiSubWindow* sub : area_->subWindowList()) {
+    if (sub->widget() == window) return sub;
+  }
+  return nullptr;
+}
+
+void FrmMain::Activate(graph_qt::FrmFunc* window) {
+  if (QMdiSubWindow* sub = SubWindowOf(window)) area_->setActiveSubWindow(sub);
+}
+
+expr::GraphFields* FrmMain::ActiveGraph() {
+  graph_qt::FrmFunc* window = ActiveGraphWindow();
+  return window != nullptr ? &window->Logic() : nullptr;
+}
+
+void FrmMain::WindowActivated(QMdiSubWindow* sub) {
+  if (sub == nullptr) return;
+  auto* window = qobject_cast<graph_qt::FrmFunc*>(sub->widget());
+  if (window == nullptr || Tag(window).isEmpty()) return;
+  // The toolbar's zoom texts and the status text follow the window.
+  graph::GraphWindow& logic = window->Logic();
+  logic.Activate();
+  statusText_ = logic.MovedText;
+  UpdateStatus();
+}
+
+FrameView FrmMain::View() const {
+  FrameView view;
+  view.windowCount = windows_.WindowCount();
+  view.bands = toolbars_->Bands();
+  view.helpFile = helpFile_;
+  if (const graph_qt::FrmFunc* active = ActiveGraphWindow()) {
+    view.hasActive = true;
+    view.functionType = active->Logic().optFunkcije;
+    view.zoom = active->Logic().zoomMenu;
+  }
+  return view;
+}
+
+void FrmMain::UpdateStatus() {
+  graph_qt::FrmFunc* active = ActiveGraphWindow();
+  const graph::GraphWindow* logic = active != nullptr ? &active->Logic() : nullptr;
+  if (active != nullptr) {
+    const QString title = QString::fromStdString(WindowTitle(Tag(active).toStdString(), *logic));
+    if (active->windowTitle() != title) active->setWindowTitle(title);
+  }
+  status_->SetPanels(StatusPanels(windows_.WindowCount(), logic, statusText_));
+  const FrameView view = View();
+  menus_->Refresh(view, recent_);
+  toolbars_->Refresh(view);
+}
+
+void FrmMain::MarkFunctionType(int /*type*/) {
+  // The marks follow the active window's type at every refresh.
+  menus_->Refresh(View(), recent_);
+}
+
+void FrmMain::ShowStatusText(const std::string& text) {
+  statusText_ = text;
+  status_->SetPanels(StatusPanels(windows_.WindowCount(),
+                                  ActiveGraphWindow() != nullptr ? &ActiveGraphWindow()->Logic() : nullptr,
+                                  statusText_));
+}
+
+void FrmMain::ChooseRecent(int entry) {
+  if (entry < 1 || entry > platform::RecentList::kEntries) return;
+  const std::string line = recent_.Caption(entry);
+  if (graph_qt::FrmFunc* active = ActiveGraphWindow()) {
+    GraphChildAdapter child(*active);
+    commands_.DrawRecent(line, &child);
+  }
+  UpdateStatus();
+}
+
+void FrmMain::ChooseExample(const graph::Example* example) {
+  if (example == nullptr) return;
+  if (graph_qt::FrmFunc* active = ActiveGraphWindow()) {
+    GraphChildAdapter child(*active);
+    commands_.LoadExample(*example, &child);
+    statusText_ = active->Logic().MovedText;
+  }
+  UpdateStatus();
+}
+
+void FrmMain::FillWindowList() {
+  std::vector<QString> titles;
+  int activeIndex = -1;
+  const graph_qt::FrmFunc* active = ActiveGraphWindow();
+  for (const Child& child : children_) {
+    if (!child.window) continue;
+    if (child.window.data() == active) activeIndex = static_cast<int>(titles.size());
+    titles.push_back(child.window->windowTitle());
+  }
+  menus_->SetWindowList(titles, activeIndex);
+}
+
+void FrmMain::ToggleBand(int band) { toolbars_->SetBandVisible(band, !toolbars_->BandVisible(band)); }
+
+void FrmMain::OpenHelp(const QString& target) {
+  if (services_.shell == nullptr || target.isEmpty()) return;
+  const platform::ShellResult result = platform::ShellOpen(*services_.shell, target.toStdString());
+  if (!result.ok) services_.messages->Show(result.description, "Velmora", platform::MsgIcon::Exclamation);
+}
+
+void FrmMain::About() {
+  services_.messages->Show("Velmora " VELMORA_VERSION "\nA desktop mathematics workbench.", "About Velmora",
+                           platform::MsgIcon::Information);
+}
+
+void FrmMain::closeEvent(QCloseEvent* event) {
+  // The toolbar layout is kept only when the frame closes maximized.
+  if (isMaximized()) SaveToolbars(*services_.settings, toolbars_->Current());
+  // A running draw stops at its next sample; nothing else is asked.
+  for (graph_qt::FrmFunc* window : GraphWindows()) window->Stop();
+  event->accept();
+}
+
+}  // namespace velmora::app
