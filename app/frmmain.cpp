@@ -1,5 +1,7 @@
 #include "app/frmmain.h"
 
+#include <cstdio>
+
 #include <QAction>
 #include <QApplication>
 #include <QCloseEvent>
@@ -8,7 +10,6 @@
 #include <QMdiArea>
 #include <QMdiSubWindow>
 #include <QTimer>
-#include <cstdio>
 
 #include "app/framemenus.h"
 #include "app/framestatusbar.h"

@@ -1,11 +1,12 @@
 #pragma once
 
-#include <QMainWindow>
-#include <QPointer>
-#include <QStringList>
 #include <memory>
 #include <string>
 #include <vector>
+
+#include <QMainWindow>
+#include <QPointer>
+#include <QStringList>
 
 #include "app/command.h"
 #include "app/framecommands.h"

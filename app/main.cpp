@@ -9,12 +9,13 @@
 //   VELMORA_SCREENSHOTS=DIR    the frame with three example windows and the
 //                              Plotting Options dialog are saved as PNG files
 //                              into DIR, then the program ends.
+#include <cstdio>
+#include <memory>
+
 #include <QApplication>
 #include <QDir>
 #include <QFileInfo>
 #include <QTimer>
-#include <cstdio>
-#include <memory>
 
 #include "app/frmmain.h"
 #include "app/screenshots.h"
@@ -34,8 +35,8 @@ namespace {
 // of a source tree the program was built in.
 QString ReadMePath() {
   const QDir bin(QCoreApplication::applicationDirPath());
-  for (const QString& candidate : {QStringLiteral("../share/doc/velmora/README.md"), QStringLiteral("../README.md"),
-                                   QStringLiteral("../../README.md")}) {
+  for (const QString& candidate : {QStringLiteral("../share/doc/velmora/README.md"),
+                                   QStringLiteral("../README.md"), QStringLiteral("../../README.md")}) {
     if (QFileInfo::exists(bin.filePath(candidate))) return QDir::cleanPath(bin.filePath(candidate));
   }
   return QDir::cleanPath(bin.filePath(QStringLiteral("../share/doc/velmora/README.md")));
@@ -95,7 +96,8 @@ int main(int argc, char** argv) {
     });
   } else if (probe) {
     QTimer::singleShot(0, &frame, [&frame] {
-      std::fprintf(stderr, "startup: ready %s\n", frame.Windows().WindowCount() > 0 ? "Graph 1" : "no window");
+      std::fprintf(stderr, "startup: ready %s\n",
+                   frame.Windows().WindowCount() > 0 ? "Graph 1" : "no window");
       std::fflush(stderr);
       QCoreApplication::exit(0);
     });

@@ -1,11 +1,12 @@
 #include "app/screenshots.h"
 
+#include <cstdio>
+
 #include <QAction>
 #include <QApplication>
 #include <QDir>
 #include <QMdiArea>
 #include <QPixmap>
-#include <cstdio>
 
 #include "app/framemenus.h"
 #include "app/frmmain.h"

@@ -19,7 +19,8 @@ using namespace velmora;
 
 struct Window {
   Window() {
-    window = std::make_unique<graph::GraphWindow>(surface, graph::StandardServices(settings, messages, input));
+    window =
+        std::make_unique<graph::GraphWindow>(surface, graph::StandardServices(settings, messages, input));
   }
   graph_qt::QImageSurface surface{800, 600};
   platform::MemorySettingsStore settings;

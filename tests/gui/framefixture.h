@@ -1,0 +1,91 @@
+#pragma once
+
+#include <memory>
+
+#include <QApplication>
+#include <QTemporaryDir>
+#include <QTest>
+
+#include "app/framemenus.h"
+#include "app/framestatusbar.h"
+#include "app/frametoolbars.h"
+#include "app/frmmain.h"
+#include "graph/graphwindow.h"
+#include "graph/qt/frmfunc.h"
+#include "platform/qt/qtsettingsstore.h"
+#include "tests/support/recordingmessagebox.h"
+#include "tests/support/scriptedinputbox.h"
+
+namespace velmora::testing {
+
+// A frame on a settings file and a history file in a temporary folder, with
+// recording message and input boxes: a box nobody scripted fails the test
+// instead of waiting for a click.
+struct FrameFixture {
+  FrameFixture() : settings(std::make_unique<qtplatform::QtSettingsStore>(IniPath())) {}
+
+  QString IniPath() const { return folder.filePath(QStringLiteral("Velmora.ini")); }
+
+  app::FrmMain& Start(bool maximized = false) {
+    app::FrameServices services;
+    services.settings = settings.get();
+    services.messages = &messages;
+    services.input = &input;
+    services.historyPath = folder.filePath(QStringLiteral("GraphLog.txt")).toStdString();
+    frame = std::make_unique<app::FrmMain>(services);
+    if (maximized) {
+      frame->showMaximized();
+    } else {
+      frame->show();
+    }
+    frame->Load({});
+    QApplication::setActiveWindow(frame.get());
+    QApplication::processEvents();
+    return *frame;
+  }
+
+  // Closes the frame as the user would and starts a new one on the same
+  // settings (a restart of the program).
+  app::FrmMain& Restart(bool maximized = false) {
+    frame->close();
+    frame.reset();
+    return Start(maximized);
+  }
+
+  graph_qt::FrmFunc& Active() {
+    graph_qt::FrmFunc* window = frame->ActiveGraphWindow();
+    if (window == nullptr) throw std::runtime_error("no active graph window");
+    return *window;
+  }
+  graph::GraphWindow& Logic() { return Active().Logic(); }
+  QString Panel(int i) const { return frame->Status().PanelText(i); }
+  QAction* Action(const char* name, int index = -1) const {
+    return frame->Menus().Action(QString::fromLatin1(name), index);
+  }
+  void Trigger(const char* name, int index = -1) {
+    QAction* action = Action(name, index);
+    ASSERT_NE(action, nullptr) << name << " " << index;
+    ASSERT_TRUE(action->isEnabled()) << name << " " << index;
+    action->trigger();
+    QApplication::processEvents();
+  }
+  void TypeAndEnter(const QString& text) {
+    QComboBox* box = Active().txtY();
+    QTest::keyClicks(box, text);
+    QTest::keyClick(box, Qt::Key_Return);
+    QApplication::processEvents();
+  }
+  std::vector<QString> Titles() const {
+    std::vector<QString> titles;
+    for (graph_qt::FrmFunc* w : frame->GraphWindows()) titles.push_back(w->windowTitle());
+    return titles;
+  }
+
+  QTemporaryDir folder;
+  std::unique_ptr<qtplatform::QtSettingsStore> settings;
+  RecordingMessageBox messages;
+  ScriptedInputBox input;
+  std::unique_ptr<app::FrmMain> frame;
+};
+
+}  // namespace velmora::testing
