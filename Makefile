@@ -11,7 +11,7 @@ WERROR ?= ON
 FUZZ_SECONDS ?= 60
 CMAKE_COMMON := -G Ninja -DVELMORA_WERROR=$(WERROR)
 
-.PHONY: all deps configure build run test test-main test-asan bench fuzz format install clean
+.PHONY: all deps configure build run test test-main test-asan bench fuzz format install clean screenshots
 
 all: build
 
@@ -56,6 +56,10 @@ fuzz: deps
 	  "$$f" -max_total_time=$(FUZZ_SECONDS) -timeout=10 -rss_limit_mb=4096 \
 	    fuzz-corpus/$$name fuzz/seeds/$$name 2>&1 | tail -n 5; \
 	done
+
+# PNG screenshots of the frame and of Plotting Options, from a virtual X server.
+screenshots: build
+	./scripts/screenshots.sh $(BUILD_DIR)
 
 format:
 	git ls-files '*.cpp' '*.h' | xargs clang-format -i
