@@ -45,12 +45,16 @@ FrmMain::FrmMain(FrameServices services, QWidget* parent)
 }
 
 FrmMain::~FrmMain() {
-  // The graph windows go with the frame's widgets, after this body: they
-  // must not reach the frame's members on the way.
+  // The graph windows go first, while the frame's members still stand; on
+  // the way out (focus leaving their boxes, their close) they may still
+  // call the frame, which then does nothing.
+  destroying_ = true;
   area_->disconnect(this);
   for (const Child& child : children_) {
     if (child.window) child.window->disconnect(this);
   }
+  for (QMdiSubWindow* sub : area_->subWindowList()) delete sub;
+  children_.clear();
 }
 
 void FrmMain::BuildFrame() {
@@ -175,6 +179,7 @@ void FrmMain::CreateGraphWindow(const std::string& caption) {
 }
 
 void FrmMain::WindowClosing(graph_qt::FrmFunc* window) {
+  if (destroying_) return;
   for (auto it = children_.begin(); it != children_.end(); ++it) {
     if (it->window.data() == window) {
       window->disconnect(this);
@@ -227,6 +232,7 @@ void FrmMain::Activate(graph_qt::FrmFunc* window) {
 }
 
 expr::GraphFields* FrmMain::ActiveGraph() {
+  if (destroying_) return nullptr;
   graph_qt::FrmFunc* window = ActiveGraphWindow();
   return window != nullptr ? &window->Logic() : nullptr;
 }
@@ -256,6 +262,7 @@ FrameView FrmMain::View() const {
 }
 
 void FrmMain::UpdateStatus() {
+  if (destroying_) return;
   graph_qt::FrmFunc* active = ActiveGraphWindow();
   const graph::GraphWindow* logic = active != nullptr ? &active->Logic() : nullptr;
   if (active != nullptr) {
@@ -269,11 +276,13 @@ void FrmMain::UpdateStatus() {
 }
 
 void FrmMain::MarkFunctionType(int /*type*/) {
+  if (destroying_) return;
   // The marks follow the active window's type at every refresh.
   menus_->Refresh(View(), recent_);
 }
 
 void FrmMain::ShowStatusText(const std::string& text) {
+  if (destroying_) return;
   statusText_ = text;
   status_->SetPanels(StatusPanels(windows_.WindowCount(),
                                   ActiveGraphWindow() != nullptr ? &ActiveGraphWindow()->Logic() : nullptr,

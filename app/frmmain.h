@@ -136,7 +136,8 @@ class FrmMain final : public QMainWindow,
   };
   std::vector<Child> children_;
   std::string statusText_;
-  bool helpFile_ = false;  // the help file is beside the program
+  bool helpFile_ = false;    // the help file is beside the program
+  bool destroying_ = false;  // the frame is going: calls from its windows do nothing
 };
 
 }  // namespace velmora::app

@@ -38,7 +38,7 @@ void Choose(FrmMain& frame, const char* array, int index) {
 int TakeScreenshots(FrmMain& frame, const QString& folder) {
   QDir dir(folder);
   dir.mkpath(QStringLiteral("."));
-  frame.resize(1280, 860);
+  frame.resize(1440, 1000);
   Settle();
   // Three windows side by side, each drawn after the tiling has sized it.
   while (frame.Windows().WindowCount() < 3) frame.NewGraphWindow();

@@ -41,12 +41,14 @@ double TimeTo(const QProcessEnvironment& env, const QByteArray& marker) {
   QByteArray seen;
   double elapsed = -1;
   while (clock.elapsed() < 20000) {
-    if (!process.waitForReadyRead(50) && process.state() == QProcess::NotRunning) break;
+    const bool running = process.state() != QProcess::NotRunning;
     seen += process.readAllStandardError();
     if (seen.contains(marker)) {
       elapsed = static_cast<double>(clock.nsecsElapsed()) / 1e6;
       break;
     }
+    if (!running) break;
+    process.waitForReadyRead(20);
   }
   process.waitForFinished(5000);
   if (process.state() != QProcess::NotRunning) {

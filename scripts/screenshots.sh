@@ -24,5 +24,5 @@ chmod 700 "$tmp/runtime"
 env -u QT_QPA_PLATFORM \
   XDG_CONFIG_HOME="$tmp/config" XDG_DATA_HOME="$tmp/data" XDG_RUNTIME_DIR="$tmp/runtime" \
   VELMORA_SCREENSHOTS="$out" \
-  xvfb-run -a -s "-screen 0 1400x1000x24" "$program"
+  xvfb-run -a -s "-screen 0 1600x1200x24" "$program"
 ls -l "$out"/*.png

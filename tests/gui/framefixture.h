@@ -71,6 +71,8 @@ struct FrameFixture {
   }
   void TypeAndEnter(const QString& text) {
     QComboBox* box = Active().txtY();
+    // The new text replaces what the box holds, as after a select-all.
+    QTest::keyClick(box, Qt::Key_A, Qt::ControlModifier);
     QTest::keyClicks(box, text);
     QTest::keyClick(box, Qt::Key_Return);
     QApplication::processEvents();

@@ -10,6 +10,7 @@
 #include <QMdiArea>
 #include <QMdiSubWindow>
 #include <QMenuBar>
+#include <QPushButton>
 #include <QToolBar>
 #include <QToolButton>
 
@@ -163,8 +164,12 @@ TEST(FrmMain, MenuBarShowsEveryCaptionOfTheTable) {
       if (!(item.name == kExitName && item.index == kExitIndex)) {
         EXPECT_EQ(action->text().toStdString(), item.caption);
       }
-      if (item.enable == EnableRule::NotBuilt) EXPECT_FALSE(action->isEnabled()) << item.caption;
-      if (item.enable == EnableRule::NeedsWindow) EXPECT_TRUE(action->isEnabled()) << item.caption;
+      if (item.enable == EnableRule::NotBuilt) {
+        EXPECT_FALSE(action->isEnabled()) << item.caption;
+      }
+      if (item.enable == EnableRule::NeedsWindow) {
+        EXPECT_TRUE(action->isEnabled()) << item.caption;
+      }
     }
   };
   for (const TopMenu& menu : menus) check(menu.items);
@@ -232,6 +237,7 @@ TEST(FrmMain, RecentFunctionsComeBackAfterARestartAndDrawWhenChosen) {
   f.TypeAndEnter(QStringLiteral("SinX"));
   f.Trigger("mnuftype", 2);  // P&olar
   f.TypeAndEnter(QStringLiteral("1+CosK"));
+  ASSERT_TRUE(f.messages.Boxes().empty());
   f.Restart();
   EXPECT_TRUE(f.frame->findChild<QAction*>(QStringLiteral("mnuSeparator2"))->isVisible());
   ASSERT_TRUE(f.Action("mnuRecent", 2)->isVisible());
@@ -374,7 +380,7 @@ TEST(FrmMain, ClearGridWithAutoRedrawOffAsksFirst) {
   f.messages.Answer(MsgResult::Cancel);
   f.Trigger("mnuclearall");
   ASSERT_EQ(f.messages.Boxes().size(), 1u);
-  EXPECT_EQ(f.messages.Boxes()[0].text, "Your current graph(s) will be erased.\nContinue?");
+  EXPECT_EQ(f.messages.Boxes()[0].text, "Your current graph(s) will be erased.\r\nContinue?");
   EXPECT_EQ(f.messages.Boxes()[0].title, "Clear");
   EXPECT_EQ(f.messages.Boxes()[0].buttons, MsgButtons::OkCancel);
   EXPECT_EQ(f.Logic().KolkoFunkc, 1);
