@@ -115,26 +115,9 @@ double GraphWindow::F(double v) { return EvaluateAt(FuncY, v); }
 
 double GraphWindow::EvaluateAt(std::string_view evaluationForm, double v) {
   try {
-    formula_.clear();
     char number[expr::kNumberTextMax];
     const std::size_t length = expr::NumberToText(v, number);
-    // Every K (after upper-casing) becomes the value in brackets; the
-    // replacement holds no K, so one left-to-right pass is the whole rescan.
-    for (const char c : evaluationForm) {
-      const char u = (c >= 'a' && c <= 'z') ? static_cast<char>(c - 'a' + 'A') : c;
-      if (u == 'K') {
-        formula_ += '(';
-        formula_.append(number, length);
-        formula_ += ')';
-      } else {
-        formula_ += u;
-      }
-    }
-    auto& evaluator = Evaluator1();
-    evaluator.SetFormula(formula_);
-    const double value = evaluator.Result();
-    evaluator.SetFormula("PopAll()");
-    return value;
+    return SubstituteAndRun(evaluationForm, std::string_view(number, length), {});
   } catch (const expr::Fault&) {
     return 0;
   }
@@ -153,30 +136,36 @@ double GraphWindow::F2(double v, double w) {
     if (onlyK) return expr::TextToNumber(std::string_view(number, length));
     char yNumber[expr::kNumberTextMax];
     const std::size_t yLength = expr::NumberToText(w, yNumber);
-    formula_.clear();
     // K first, then Y: X may depend on the current Y.
-    for (const char c : FuncX) {
-      const char u = (c >= 'a' && c <= 'z') ? static_cast<char>(c - 'a' + 'A') : c;
-      if (u == 'K') {
-        formula_ += '(';
-        formula_.append(number, length);
-        formula_ += ')';
-      } else if (u == 'Y') {
-        formula_ += '(';
-        formula_.append(yNumber, yLength);
-        formula_ += ')';
-      } else {
-        formula_ += u;
-      }
-    }
-    auto& evaluator = Evaluator1();
-    evaluator.SetFormula(formula_);
-    const double value = evaluator.Result();
-    evaluator.SetFormula("PopAll()");
-    return value;
+    return SubstituteAndRun(FuncX, std::string_view(number, length), std::string_view(yNumber, yLength));
   } catch (const expr::Fault&) {
     return 0;
   }
+}
+
+double GraphWindow::SubstituteAndRun(std::string_view evaluationForm, std::string_view kText,
+                                     std::string_view yText) {
+  formula_.clear();
+  // Every K (after upper-casing) becomes the value in brackets, and so does
+  // every Y when a Y text is given; the replacements hold neither letter, so
+  // one left-to-right pass is the whole rescan.
+  for (const char c : evaluationForm) {
+    const char u = (c >= 'a' && c <= 'z') ? static_cast<char>(c - 'a' + 'A') : c;
+    const std::string_view value =
+        u == 'K' ? kText : (u == 'Y' && !yText.empty() ? yText : std::string_view{});
+    if (value.empty()) {
+      formula_ += u;
+    } else {
+      formula_ += '(';
+      formula_ += value;
+      formula_ += ')';
+    }
+  }
+  auto& evaluator = Evaluator1();
+  evaluator.SetFormula(formula_);
+  const double value = evaluator.Result();
+  evaluator.SetFormula("PopAll()");
+  return value;
 }
 
 // ---- Paper and clearing --------------------------------------------------------------

@@ -257,6 +257,9 @@ class GraphWindow final : public expr::GraphFields {
   // The typed texts of the last draw, kept for its history record.
   std::string typedY_;
   std::string typedX_;
+  // Puts the K text (and the Y text, when given) in brackets into the
+  // evaluation form and runs it on Evaluator1; throws the engine's fault.
+  double SubstituteAndRun(std::string_view evaluationForm, std::string_view kText, std::string_view yText);
   // Reused by F and F2: one sample's formula text.
   std::string formula_;
 };
