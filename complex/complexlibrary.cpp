@@ -213,16 +213,15 @@ void Complex::CTan(double a, double b, double& re, double& im) {
   });
 }
 
+void Complex::CExpPair(double a, double b, double& pr, double& pi, double& qr, double& qi) {
+  CExp(a, b, pr, pi);
+  CExp(-a, -b, qr, qi);
+}
+
 void Complex::CSinh(double a, double b, double& re, double& im) {
   Guarded([&] {
-    double pr = 0.0;
-    double pi = 0.0;
-    double qr = 0.0;
-    double qi = 0.0;
-    double sr = 0.0;
-    double si = 0.0;
-    CExp(a, b, pr, pi);
-    CExp(-a, -b, qr, qi);
+    double pr = 0.0, pi = 0.0, qr = 0.0, qi = 0.0, sr = 0.0, si = 0.0;
+    CExpPair(a, b, pr, pi, qr, qi);
     CSub(pr, pi, qr, qi, sr, si);
     CDiv(sr, si, 2.0, 0.0, re, im);
   });
@@ -230,14 +229,8 @@ void Complex::CSinh(double a, double b, double& re, double& im) {
 
 void Complex::CCosh(double a, double b, double& re, double& im) {
   Guarded([&] {
-    double pr = 0.0;
-    double pi = 0.0;
-    double qr = 0.0;
-    double qi = 0.0;
-    double sr = 0.0;
-    double si = 0.0;
-    CExp(a, b, pr, pi);
-    CExp(-a, -b, qr, qi);
+    double pr = 0.0, pi = 0.0, qr = 0.0, qi = 0.0, sr = 0.0, si = 0.0;
+    CExpPair(a, b, pr, pi, qr, qi);
     CAdd(pr, pi, qr, qi, sr, si);
     CDiv(sr, si, 2.0, 0.0, re, im);
   });
@@ -245,16 +238,9 @@ void Complex::CCosh(double a, double b, double& re, double& im) {
 
 void Complex::CTanh(double a, double b, double& re, double& im) {
   Guarded([&] {
-    double pr = 0.0;
-    double pi = 0.0;
-    double qr = 0.0;
-    double qi = 0.0;
-    double dr = 0.0;
-    double di = 0.0;
-    double sr = 0.0;
-    double si = 0.0;
-    CExp(a, b, pr, pi);
-    CExp(-a, -b, qr, qi);
+    double pr = 0.0, pi = 0.0, qr = 0.0, qi = 0.0;
+    double dr = 0.0, di = 0.0, sr = 0.0, si = 0.0;
+    CExpPair(a, b, pr, pi, qr, qi);
     CSub(pr, pi, qr, qi, dr, di);
     CAdd(pr, pi, qr, qi, sr, si);
     CDiv(dr, di, sr, si, re, im);

@@ -68,6 +68,9 @@ class Complex {
   // Runs a guarded body: a fault stops it and shows "Invalid input.".
   template <class Body>
   void Guarded(Body body);
+  // e^(a + jb) into (pr, pi) and e^(-a - jb) into (qr, qi), each rounded as
+  // CExp rounds: the two halves every hyperbolic function is built from.
+  void CExpPair(double a, double b, double& pr, double& pi, double& qr, double& qi);
 
   platform::MessageBox& box_;
 };
