@@ -8,6 +8,7 @@
 #include <ostream>
 #include <string_view>
 
+#include "base/asciicase.h"
 #include "cli/command.h"
 #include "complex/complexnumber.h"
 #include "expr/numtext.h"
@@ -71,8 +72,7 @@ class Session {
   // Runs one line; returns an error text, or "" when the line printed its fields.
   std::string Line(const std::string& line, std::ostream& out) {
     const std::size_t blank = line.find(' ');
-    std::string word = line.substr(0, blank);
-    std::transform(word.begin(), word.end(), word.begin(), [](unsigned char c) { return std::toupper(c); });
+    const std::string word = base::UpperCase(line.substr(0, blank));
     const std::string rest = blank == std::string::npos ? std::string() : line.substr(blank + 1);
     if (word == "RECT" || word == "POLAR") {
       numbers_.emplace_back();

@@ -9,7 +9,7 @@
 #include "expr/numtext.h"
 #include "graph/graphwindow.h"
 #include "platform/settingskeys.h"
-#include "tools/textcase.h"
+#include "base/asciicase.h"
 
 namespace velmora::graph {
 namespace {
@@ -215,7 +215,7 @@ void GraphWindow::RedrawFunc() {
 }
 
 void GraphWindow::txtY_Click() {
-  const std::string upper = tools::UpperCase(txtY.Text);
+  const std::string upper = base::UpperCase(txtY.Text);
   if (upper.find('K') != std::string::npos) {
     int found = -1;
     for (std::size_t i = 0; i < cmbR3.List.size(); ++i) {

@@ -9,7 +9,7 @@
 #include "graph/graphwindow.h"
 #include "graph/historyrecord.h"
 #include "tools/tablerows.h"
-#include "tools/textcase.h"
+#include "base/asciicase.h"
 
 namespace velmora::graph {
 namespace {
@@ -25,7 +25,7 @@ void ResumeNext(Statement&& statement) {
 }  // namespace
 
 void GraphWindow::FillValueTable(double from, double to) {
-  const bool hasK = tools::UpperCase(txtY.Text).find('K') != std::string::npos;
+  const bool hasK = base::UpperCase(txtY.Text).find('K') != std::string::npos;
   const bool refuse = hasK && optFunkcije != kCartesian;
   tools::TableRows rows(Evaluator1(), *services_.messages);
   if (!refuse) lblPointtab.Caption = "Value Tables for " + txtY.Text;

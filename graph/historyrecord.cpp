@@ -1,7 +1,7 @@
 #include "graph/historyrecord.h"
 
 #include "expr/replacetext.h"
-#include "tools/textcase.h"
+#include "base/asciicase.h"
 
 namespace velmora::graph {
 
@@ -55,7 +55,7 @@ std::vector<std::string> HistoryRecord(const RecordFields& f) {
 }
 
 std::string HistoryFunctionText(std::string_view typed, bool cartesian) {
-  std::string text = tools::LowerCase(typed);
+  std::string text = base::LowerCase(typed);
   if (cartesian) expr::ReplaceAllInPlace(text, "k", "x");
   return text;
 }

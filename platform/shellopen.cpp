@@ -1,5 +1,7 @@
 #include "platform/shellopen.h"
 
+#include "base/asciicase.h"
+
 #include <algorithm>
 #include <array>
 #include <cctype>
@@ -32,10 +34,7 @@ constexpr std::string_view kOtherError =
 }  // namespace
 
 bool IsProgramTarget(std::string_view file) {
-  std::string upper(file);
-  std::transform(upper.begin(), upper.end(), upper.begin(),
-                 [](unsigned char c) { return static_cast<char>(std::toupper(c)); });
-  return upper.find(".EXE") != std::string::npos;
+  return base::UpperCase(file).find(".EXE") != std::string::npos;
 }
 
 std::string ShellErrorText(int number) {

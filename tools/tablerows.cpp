@@ -6,7 +6,7 @@
 #include "expr/fault.h"
 #include "expr/numtext.h"
 #include "expr/replacetext.h"
-#include "tools/textcase.h"
+#include "base/asciicase.h"
 
 namespace velmora::tools {
 namespace {
@@ -76,7 +76,7 @@ void ResetTable(ValueTable& table, TableLayout layout) {
 std::string TableTextForm(std::string_view typed, TableLayout layout) {
   std::string text(typed);
   for (const auto& p : kBrackets) expr::ReplaceAllInPlace(text, p.find, p.replace);
-  text = UpperCase(text);
+  text = base::UpperCase(text);
   if (layout == TableLayout::Polar) return text;
   for (const auto& p : kNames) expr::ReplaceAllInPlace(text, p.find, p.replace);
   if (layout == TableLayout::Cartesian) {
@@ -84,11 +84,11 @@ std::string TableTextForm(std::string_view typed, TableLayout layout) {
   } else {
     expr::ReplaceAllInPlace(text, "K", "(K)");
   }
-  return LowerCase(text);
+  return base::LowerCase(text);
 }
 
 bool TableRows::NoDerivative(std::string_view function) {
-  const std::string upper = UpperCase(function);
+  const std::string upper = base::UpperCase(function);
   return upper.find("BLANC") != std::string::npos || upper.find("GAMMA") != std::string::npos ||
          upper.find("FOUR") != std::string::npos;
 }
