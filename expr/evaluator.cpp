@@ -298,7 +298,8 @@ double Evaluator::EvalTerm(std::string_view text) {
     }
     return accumulator;
   } catch (const Fault&) {
-    error_ = kRuntime;
+    // A fault met after an earlier failure does not replace its code.
+    if (error_ == kOk) error_ = kRuntime;
     return 0.0;
   }
 }
@@ -429,6 +430,10 @@ double Evaluator::EvalFunction(std::string_view name, std::string_view inner) {
       error_ = kSyntax;
       return 0.0;
     }
+    // An argument that failed leaves 0 behind: applying the function to it
+    // would fault (LN, COT, GAMMA, ...) and overwrite the argument's code
+    // with 16, so a wrong text would pass for an undefined point.
+    if (error_ != kOk) return 0.0;
     if (*fn == Fn::Asec || *fn == Fn::Acsc) {
       // These two tell the window whether to draw the point.
       if (OutsideSentinelDomain(*fn, x)) {
@@ -442,7 +447,7 @@ double Evaluator::EvalFunction(std::string_view name, std::string_view inner) {
     }
     value = Checked(Apply(*fn, x));
   } catch (const Fault&) {
-    error_ = kRuntime;
+    if (error_ == kOk) error_ = kRuntime;
   }
   return value;
 }
