@@ -233,7 +233,12 @@ void ComplexNumber::FormatRectangular(std::int32_t lngPlaces) {
     RecordFault(Fault::kOverflow);
     return;
   }
-  rectText_.SetPrint(real_, imaginary_, places, false);
+  // A part at the very top of the range overflows in its rounding: the
+  // texts stay as they were and the overflow is recorded.
+  if (const int fault = rectText_.SetPrint(real_, imaginary_, places, false); fault != 0) {
+    RecordFault(fault);
+    return;
+  }
   conjText_.SetPrint(real_, imaginary_, places, true);
 }
 
@@ -251,6 +256,7 @@ void ComplexNumber::FormatPolar(std::int32_t lngPlaces) {
 
 void ComplexNumber::ParseRectangular() {
   parsedClean_ = false;
+  parseOverflowed_ = false;
   if (rectText_.Empty()) return;
   double re = 0;
   double im = 0;
@@ -265,13 +271,17 @@ void ComplexNumber::ParseRectangular() {
       parsedClean_ = true;
     } catch (const Fault& f) {
       RecordFault(f.Number());
+      parseOverflowed_ = true;
     }
     return;
   }
   try {
     ParseRectangularText();
   } catch (const Fault& f) {
+    // Only a number too large for a double, or for the square taken for the
+    // modulus, faults in a parse.
     RecordFault(f.Number());
+    parseOverflowed_ = true;
   }
 }
 
@@ -351,13 +361,13 @@ void ComplexNumber::ParsePolar() {
       return;
     }
     const std::string modulusText = s.substr(0, separator - 1);
-    if (IsNumericText(modulusText)) {
+    if (expr::IsNumericText(modulusText)) {
       modulus_ = expr::TextToNumber(modulusText);
     } else {
       SetParseFailure(kNotNumeric, kBadPolar);
     }
     const std::string angleText = s.substr(separator, length - separator);
-    if (IsNumericText(angleText)) {
+    if (expr::IsNumericText(angleText)) {
       StoreAngle(expr::TextToNumber(angleText));
     } else {
       SetParseFailure(kNotNumeric, kBadPolar);
@@ -456,6 +466,7 @@ void ComplexNumber::CopyRectText(const ComplexNumber& other) {
     angleRatio_ = other.angleRatio_;
     angleTurn_ = other.angleTurn_;
     parsedClean_ = true;
+    parseOverflowed_ = false;
     return;
   }
   ParseRectangular();
