@@ -14,7 +14,7 @@ namespace {
 
 using expr::Fault;
 
-constexpr const char* kBadRectangular = "You must enter a valid complex number.";
+constexpr const char* kBadRectangular = kInvalidComplexNumber;
 constexpr const char* kBadPolar = "You must enter a valid complex number in polar form.";
 constexpr std::int16_t kTooManySigns = 1001;
 constexpr std::int16_t kTooManyLetters = 1002;

@@ -8,6 +8,10 @@
 
 namespace velmora::complex {
 
+// The message of a rectangular text that cannot be read as a number: the
+// parser's ErrDescription, and the message of a matrix entry refused.
+inline constexpr const char* kInvalidComplexNumber = "You must enter a valid complex number.";
+
 // A complex number held in both forms at once, rectangular and polar, with
 // the texts of both forms, the roots of its last root extraction and the code
 // of its last failure. It is the value behind every matrix entry.

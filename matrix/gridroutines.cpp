@@ -10,8 +10,6 @@ namespace {
 using complex::ComplexNumber;
 
 constexpr const char* kErrorTitle = "Error";
-// The entry's own message, the one its parser gives a text it cannot read.
-constexpr const char* kBadEntry = "You must enter a valid complex number.";
 constexpr std::int16_t kMaxSize = 50;
 
 // A message is prefix + name + suffix.
@@ -127,7 +125,7 @@ int GridRoutines::GridToMatrix(const Grid& grid, ComplexMatrix& matrix) {
         if (scratch.ParseOverflowed()) {
           // A number too large to hold would go in as whatever the scratch
           // number was left with: the entry is refused instead.
-          messages_.Show(kBadEntry, "Invalid Entry in Matrix " + matrix.Name(),
+          messages_.Show(complex::kInvalidComplexNumber, "Invalid Entry in Matrix " + matrix.Name(),
                          platform::MsgIcon::Exclamation);
           return 1;
         }

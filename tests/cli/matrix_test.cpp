@@ -113,6 +113,10 @@ TEST_F(MatrixCommandTest, NumbersTooLargeToHoldAreRefused) {
   EXPECT_EQ(r.status, 1);
   EXPECT_EQ(r.out, "");
   EXPECT_EQ(r.err, "You must enter a valid complex number.\n");
+  r = cli_.Run({"matrix", "trace", cli_.File("bigtrace.mcf", " 1  1 \r\n" + digits201 + "\r\n").string()});
+  EXPECT_EQ(r.status, 1);
+  EXPECT_EQ(r.out, "");
+  EXPECT_EQ(r.err, "You must enter a valid complex number.\n");
   r = cli_.Run({"matrix", "smul", a_, "--scalar", digits201});
   EXPECT_EQ(r.status, 1);
   EXPECT_EQ(r.out, "");

@@ -186,6 +186,13 @@ TEST_F(MatrixCalculatorTest, AnEntryTooLargeToHoldIsRefused) {
                platform::MsgIcon::Exclamation);
 }
 
+TEST_F(MatrixCalculatorTest, TraceRefusesACellTooLargeToHold) {
+  calc_.grdGrid2 = MakeGrid({{"1", "0"}, {"0", std::string(400, '9')}});
+  EXPECT_FALSE(calc_.Trace(MatrixCalculator::kTabB));
+  ExpectOneBox("You must enter a valid complex number.", "Invalid Entry in Matrix Matrix B",
+               platform::MsgIcon::Exclamation);
+}
+
 TEST_F(MatrixCalculatorTest, Adjoint) {
   calc_.grdGrid1 = MakeGrid({{"1", "2"}, {"3", "4"}});
   EXPECT_TRUE(calc_.Adjoint(MatrixCalculator::kTabA));
