@@ -6,6 +6,7 @@
 #include <string_view>
 
 #include "cli/streammessagebox.h"
+#include "complex/complexnumber.h"
 #include "expr/fault.h"
 #include "matrix/gridroutines.h"
 #include "matrix/htmlreport.h"
@@ -122,7 +123,12 @@ bool Calculate(const Options& o, MatrixCalculator& calc, std::ostream& out, std:
   const std::string_view word = o.op->word;
   if (word == "trace") {
     try {
-      out << matrix::TraceValueText(matrix::TraceCells(calc.grdGrid1)) << '\n';
+      const matrix::TraceSum sum = matrix::TraceCells(calc.grdGrid1);
+      if (!sum.held) {
+        err << complex::kInvalidComplexNumber << '\n';
+        return false;
+      }
+      out << matrix::TraceValueText(sum) << '\n';
       return true;
     } catch (const expr::Fault& fault) {
       err << fault.what() << '\n';

@@ -3,6 +3,7 @@
 #include <cmath>
 
 #include "complex/complexmessages.h"
+#include "expr/checked.h"
 #include "expr/fault.h"
 #include "expr/numtext.h"
 
@@ -11,31 +12,8 @@ namespace {
 
 using expr::Fault;
 
-// Floating-point arithmetic that checks each operation, as the platform does:
-// an overflow, an invalid operation or a division by zero raises a fault
-// instead of producing an infinity or a NaN.
-double Checked(double x) {
-  if (!std::isfinite(x)) throw Fault(Fault::kOverflow);
-  return x;
-}
-double Add(double x, double y) { return Checked(x + y); }
-double Sub(double x, double y) { return Checked(x - y); }
-double Mul(double x, double y) { return Checked(x * y); }
-double Div(double x, double y) {
-  // 0/0 is the platform's overflow; anything else over 0 is a division by zero.
-  if (y == 0.0) throw Fault(x == 0.0 ? Fault::kOverflow : Fault::kDivisionByZero);
-  return Checked(x / y);
-}
-double Sqrt(double x) {
-  if (x < 0.0) throw Fault(Fault::kInvalidCall);
-  return std::sqrt(x);
-}
-double Log(double x) {
-  if (x <= 0.0) throw Fault(Fault::kInvalidCall);
-  return std::log(x);
-}
-double Exp(double x) { return Checked(std::exp(x)); }
-double Square(double x) { return Mul(x, x); }
+// The checked arithmetic, one fault policy for the whole program.
+double Square(double x) { return expr::CheckedMul(x, x); }
 
 // Every result of the library is cut to 6 decimal places, ties to even.
 double Round6(double x) { return expr::RoundTo(x, 6); }
@@ -58,19 +36,19 @@ void Complex::Guarded(Body body) {
 }
 
 void Complex::CAdd(double a, double b, double c, double d, double& re, double& im) {
-  re = Round6(Add(a, c));
-  im = Round6(Add(b, d));
+  re = Round6(expr::CheckedAdd(a, c));
+  im = Round6(expr::CheckedAdd(b, d));
 }
 
 void Complex::CSub(double a, double b, double c, double d, double& re, double& im) {
-  re = Round6(Sub(a, c));
-  im = Round6(Sub(b, d));
+  re = Round6(expr::CheckedSub(a, c));
+  im = Round6(expr::CheckedSub(b, d));
 }
 
 void Complex::CMul(double a, double b, double c, double d, double& re, double& im) {
   Guarded([&] {
-    re = Round6(Sub(Mul(a, c), Mul(b, d)));
-    im = Round6(Add(Mul(a, d), Mul(b, c)));
+    re = Round6(expr::CheckedSub(expr::CheckedMul(a, c), expr::CheckedMul(b, d)));
+    im = Round6(expr::CheckedAdd(expr::CheckedMul(a, d), expr::CheckedMul(b, c)));
   });
 }
 
@@ -81,20 +59,20 @@ void Complex::CDiv(double a, double b, double c, double d, double& re, double& i
     double pr = 0.0;
     double pi = 0.0;
     CMul(a, b, c, -d, pr, pi);
-    const double denominator = Add(Square(c), Square(d));
-    re = Round6(Div(pr, denominator));
-    im = Round6(Div(pi, denominator));
+    const double denominator = expr::CheckedAdd(Square(c), Square(d));
+    re = Round6(expr::CheckedDiv(pr, denominator));
+    im = Round6(expr::CheckedDiv(pi, denominator));
   });
 }
 
 void Complex::CAbs(double a, double b, double& m) {
-  Guarded([&] { m = Round6(Sqrt(Add(Square(a), Square(b)))); });
+  Guarded([&] { m = Round6(expr::CheckedSqrt(expr::CheckedAdd(Square(a), Square(b)))); });
 }
 
 void Complex::CExp(double a, double b, double& re, double& im) {
   Guarded([&] {
-    re = Round6(Mul(Exp(a), std::cos(b)));
-    im = Round6(Mul(Exp(a), std::sin(b)));
+    re = Round6(expr::CheckedMul(expr::CheckedExp(a), std::cos(b)));
+    im = Round6(expr::CheckedMul(expr::CheckedExp(a), std::sin(b)));
   });
 }
 
@@ -102,7 +80,7 @@ void Complex::CLn(double a, double b, double& re, double& im) {
   Guarded([&] {
     double m = 0.0;
     CAbs(a, b, m);
-    re = Round6(m == 0.0 ? 0.0 : Log(m));
+    re = Round6(m == 0.0 ? 0.0 : expr::CheckedLog(m));
     const double pi = Pi();
     double angle = 0.0;
     if (a >= 0.0 && b == 0.0) {
@@ -117,12 +95,14 @@ void Complex::CLn(double a, double b, double& re, double& im) {
       // atn(|b/a|) * s + (1 - b/|b|) * (a*pi/|a|) + (1 - a/|a|) * pi/2, term
       // by term: the quadrants come out as atn, pi - atn, atn - pi and
       // 2*pi - atn, so the third quadrant stands apart from the others.
-      const double ab = Mul(a, b);
-      const double s = Div(ab, std::fabs(ab));
-      const double first = Mul(std::atan(std::fabs(Div(b, a))), s);
-      const double second = Mul(Sub(1.0, Div(b, std::fabs(b))), Div(Mul(a, pi), std::fabs(a)));
-      const double third = Div(Mul(Sub(1.0, Div(a, std::fabs(a))), pi), 2.0);
-      angle = Add(Add(first, second), third);
+      const double ab = expr::CheckedMul(a, b);
+      const double s = expr::CheckedDiv(ab, std::fabs(ab));
+      const double first = expr::CheckedMul(std::atan(std::fabs(expr::CheckedDiv(b, a))), s);
+      const double second = expr::CheckedMul(expr::CheckedSub(1.0, expr::CheckedDiv(b, std::fabs(b))),
+                                             expr::CheckedDiv(expr::CheckedMul(a, pi), std::fabs(a)));
+      const double third = expr::CheckedDiv(
+          expr::CheckedMul(expr::CheckedSub(1.0, expr::CheckedDiv(a, std::fabs(a))), pi), 2.0);
+      angle = expr::CheckedAdd(expr::CheckedAdd(first, second), third);
     }
     im = Round6(angle);
   });
@@ -152,8 +132,8 @@ void Complex::CPow(double a, double b, double c, double d, double& re, double& i
 
 void Complex::CInv(double a, double b, double& re, double& im) {
   Guarded([&] {
-    re = Round6(Div(a, Add(Square(a), Square(b))));
-    im = Round6(Div(Mul(b, -1.0), Add(Square(a), Square(b))));
+    re = Round6(expr::CheckedDiv(a, expr::CheckedAdd(Square(a), Square(b))));
+    im = Round6(expr::CheckedDiv(expr::CheckedMul(b, -1.0), expr::CheckedAdd(Square(a), Square(b))));
   });
 }
 
@@ -249,14 +229,14 @@ void Complex::CTanh(double a, double b, double& re, double& im) {
 
 void Complex::CArgRad(double a, double b, double& re, double& im) {
   Guarded([&] {
-    re = Round6(std::atan(Div(b, a)));
+    re = Round6(std::atan(expr::CheckedDiv(b, a)));
     im = 0.0;
   });
 }
 
 void Complex::CArgDeg(double a, double b, double& re, double& im) {
   Guarded([&] {
-    const double degrees = Mul(kDegreesPerRadian, std::atan(Div(b, a)));
+    const double degrees = expr::CheckedMul(kDegreesPerRadian, std::atan(expr::CheckedDiv(b, a)));
     // The value goes through its printed form before it is rounded.
     re = Round6(expr::TextToNumber(expr::NumberToText(degrees)));
     im = 0.0;

@@ -5,6 +5,7 @@
 
 #include "complex/printshortcut.h"
 #include "complex/strtext.h"
+#include "expr/checked.h"
 #include "expr/fault.h"
 #include "expr/numtext.h"
 
@@ -13,7 +14,7 @@ namespace {
 
 using expr::Fault;
 
-constexpr const char* kBadRectangular = "You must enter a valid complex number.";
+constexpr const char* kBadRectangular = kInvalidComplexNumber;
 constexpr const char* kBadPolar = "You must enter a valid complex number in polar form.";
 constexpr std::int16_t kTooManySigns = 1001;
 constexpr std::int16_t kTooManyLetters = 1002;
@@ -23,26 +24,6 @@ constexpr std::int16_t kNotNumeric = 1002;
 // More roots than this cannot be held; asking for them is an out-of-memory
 // failure rather than minutes of work.
 constexpr std::int32_t kMaxRoots = 1 << 20;
-
-// Float arithmetic that faults as the platform's does: an overflow or an
-// invalid operation raises error 6, a division of a non-zero number by zero
-// error 11 (0 / 0 is an overflow). Underflow is not trapped.
-double Checked(double v) {
-  if (!std::isfinite(v)) throw Fault(Fault::kOverflow);
-  return v;
-}
-double Mul(double a, double b) { return Checked(a * b); }
-double Sum(double a, double b) { return Checked(a + b); }
-double Diff(double a, double b) { return Checked(a - b); }
-double Quot(double a, double b) {
-  if (b == 0) throw Fault(a == 0 || std::isnan(a) ? Fault::kOverflow : Fault::kDivisionByZero);
-  return Checked(a / b);
-}
-double Pow(double base, double exponent) {
-  if (base == 0 && exponent < 0) throw Fault(Fault::kInvalidCall);
-  if (base < 0 && exponent != std::trunc(exponent)) throw Fault(Fault::kInvalidCall);
-  return Checked(std::pow(base, exponent));
-}
 
 std::string WithoutBlanks(const std::string& s) {
   std::string out;
@@ -112,8 +93,8 @@ std::int32_t ComplexNumber::Places(std::int32_t lngPlaces) const {
 bool ComplexNumber::Negate() {
   parsedClean_ = false;
   try {
-    real_ = Mul(real_, -1.0);
-    imaginary_ = Mul(imaginary_, -1.0);
+    real_ = expr::CheckedMul(real_, -1.0);
+    imaginary_ = expr::CheckedMul(imaginary_, -1.0);
     RectangularToPolarCore();
     return true;
   } catch (const Fault& f) {
@@ -127,10 +108,10 @@ void ComplexNumber::Power(double n) {
   int fault = 0;
   try {
     // One statement after the other, so the first fault met is the one kept.
-    double power = Pow(modulus_, n);
-    real_ = Mul(power, Checked(std::cos(Mul(Angle(), n))));
-    power = Pow(modulus_, n);
-    imaginary_ = Mul(power, Checked(std::sin(Mul(Angle(), n))));
+    double power = expr::CheckedPow(modulus_, n);
+    real_ = expr::CheckedMul(power, expr::Checked(std::cos(expr::CheckedMul(Angle(), n))));
+    power = expr::CheckedPow(modulus_, n);
+    imaginary_ = expr::CheckedMul(power, expr::Checked(std::sin(expr::CheckedMul(Angle(), n))));
     RectangularToPolarCore();
   } catch (const Fault& f) {
     fault = f.Number();
@@ -143,15 +124,16 @@ void ComplexNumber::Roots(double n, std::int32_t lngPlaces) {
   const std::int32_t places = Places(lngPlaces);
   int fault = 0;
   try {
-    const std::int32_t last = expr::ToLong(Diff(n, 1));
+    const std::int32_t last = expr::ToLong(expr::CheckedSub(n, 1));
     if (last < 0) throw Fault(Fault::kSubscriptOutOfRange);
     if (last >= kMaxRoots) throw Fault(Fault::kOutOfMemory);
     rootTexts_.assign(static_cast<std::size_t>(last) + 1, std::string());
     for (std::int32_t k = 0; k <= last; ++k) {
-      const double t = Quot(Sum(Mul(Mul(2, k), pi_), Angle()), n);
-      const double r = Pow(modulus_, Quot(1, n));
-      const double re = Mul(r, std::cos(t));
-      const double im = Mul(r, std::sin(t));
+      const double t =
+          expr::CheckedDiv(expr::CheckedAdd(expr::CheckedMul(expr::CheckedMul(2, k), pi_), Angle()), n);
+      const double r = expr::CheckedPow(modulus_, expr::CheckedDiv(1, n));
+      const double re = expr::CheckedMul(r, std::cos(t));
+      const double im = expr::CheckedMul(r, std::sin(t));
       // The untrimmed print: a non-negative part keeps its leading blank.
       std::string text = StrText(RoundPlaces(re, places));
       if (im >= 0) {
@@ -174,9 +156,16 @@ void ComplexNumber::Divide(const ComplexNumber& a, const ComplexNumber& b) {
   try {
     // Each statement reads the operands afresh, so an operand that is this
     // object is seen with the parts written so far.
-    const double d = Sum(Mul(Mul(b.Imaginary(), -1), b.ConjImaginary()), Mul(b.Real(), b.Real()));
-    real_ = Quot(Sum(Mul(Mul(a.Imaginary(), -1), b.ConjImaginary()), Mul(b.Real(), a.Real())), d);
-    imaginary_ = Quot(Sum(Mul(a.Imaginary(), b.Real()), Mul(b.ConjImaginary(), a.Real())), d);
+    const double d =
+        expr::CheckedAdd(expr::CheckedMul(expr::CheckedMul(b.Imaginary(), -1), b.ConjImaginary()),
+                         expr::CheckedMul(b.Real(), b.Real()));
+    real_ = expr::CheckedDiv(
+        expr::CheckedAdd(expr::CheckedMul(expr::CheckedMul(a.Imaginary(), -1), b.ConjImaginary()),
+                         expr::CheckedMul(b.Real(), a.Real())),
+        d);
+    imaginary_ = expr::CheckedDiv(expr::CheckedAdd(expr::CheckedMul(a.Imaginary(), b.Real()),
+                                                   expr::CheckedMul(b.ConjImaginary(), a.Real())),
+                                  d);
     conjImaginary_ = -imaginary_;
     RectangularToPolarCore();
   } catch (const Fault& f) {
@@ -189,8 +178,10 @@ void ComplexNumber::Divide(const ComplexNumber& a, const ComplexNumber& b) {
 bool ComplexNumber::Multiply(const ComplexNumber& a, const ComplexNumber& b) {
   parsedClean_ = false;
   try {
-    real_ = Sum(Mul(Mul(a.Imaginary(), b.Imaginary()), -1), Mul(b.Real(), a.Real()));
-    imaginary_ = Sum(Mul(a.Imaginary(), b.Real()), Mul(b.Imaginary(), a.Real()));
+    real_ = expr::CheckedAdd(expr::CheckedMul(expr::CheckedMul(a.Imaginary(), b.Imaginary()), -1),
+                             expr::CheckedMul(b.Real(), a.Real()));
+    imaginary_ = expr::CheckedAdd(expr::CheckedMul(a.Imaginary(), b.Real()),
+                                  expr::CheckedMul(b.Imaginary(), a.Real()));
     RectangularToPolarCore();
     return true;
   } catch (const Fault& f) {
@@ -202,8 +193,8 @@ bool ComplexNumber::Multiply(const ComplexNumber& a, const ComplexNumber& b) {
 bool ComplexNumber::Subtract(const ComplexNumber& a, const ComplexNumber& b) {
   parsedClean_ = false;
   try {
-    real_ = Diff(a.Real(), b.Real());
-    imaginary_ = Diff(a.Imaginary(), b.Imaginary());
+    real_ = expr::CheckedSub(a.Real(), b.Real());
+    imaginary_ = expr::CheckedSub(a.Imaginary(), b.Imaginary());
     RectangularToPolarCore();
     return true;
   } catch (const Fault& f) {
@@ -215,8 +206,8 @@ bool ComplexNumber::Subtract(const ComplexNumber& a, const ComplexNumber& b) {
 bool ComplexNumber::Add(const ComplexNumber& a, const ComplexNumber& b) {
   parsedClean_ = false;
   try {
-    real_ = Sum(a.Real(), b.Real());
-    imaginary_ = Sum(a.Imaginary(), b.Imaginary());
+    real_ = expr::CheckedAdd(a.Real(), b.Real());
+    imaginary_ = expr::CheckedAdd(a.Imaginary(), b.Imaginary());
     RectangularToPolarCore();
     return true;
   } catch (const Fault& f) {
@@ -233,16 +224,22 @@ void ComplexNumber::FormatRectangular(std::int32_t lngPlaces) {
     RecordFault(Fault::kOverflow);
     return;
   }
-  rectText_.SetPrint(real_, imaginary_, places, false);
+  // A part at the very top of the range overflows in its rounding: the
+  // texts stay as they were and the overflow is recorded.
+  if (const int fault = rectText_.SetPrint(real_, imaginary_, places, false); fault != 0) {
+    RecordFault(fault);
+    return;
+  }
   conjText_.SetPrint(real_, imaginary_, places, true);
 }
 
 void ComplexNumber::FormatPolar(std::int32_t lngPlaces) {
   const std::int32_t places = Places(lngPlaces);
   try {
-    const std::string m = ShortText(expr::RoundTo(Checked(modulus_), places));
-    const std::string a = ShortText(expr::RoundTo(Checked(Angle()), places));
-    const std::string g = ShortText(expr::RoundTo(Quot(Mul(Angle(), 180), pi_), places));
+    const std::string m = ShortText(expr::RoundTo(expr::Checked(modulus_), places));
+    const std::string a = ShortText(expr::RoundTo(expr::Checked(Angle()), places));
+    const std::string g =
+        ShortText(expr::RoundTo(expr::CheckedDiv(expr::CheckedMul(Angle(), 180), pi_), places));
     polarText_ = m + " / " + a + " rad" + "\r\n" + m + " / " + g + " deg";
   } catch (const Fault& f) {
     RecordFault(f.Number());
@@ -251,6 +248,7 @@ void ComplexNumber::FormatPolar(std::int32_t lngPlaces) {
 
 void ComplexNumber::ParseRectangular() {
   parsedClean_ = false;
+  parseOverflowed_ = false;
   if (rectText_.Empty()) return;
   double re = 0;
   double im = 0;
@@ -265,13 +263,17 @@ void ComplexNumber::ParseRectangular() {
       parsedClean_ = true;
     } catch (const Fault& f) {
       RecordFault(f.Number());
+      parseOverflowed_ = true;
     }
     return;
   }
   try {
     ParseRectangularText();
   } catch (const Fault& f) {
+    // Only a number too large for a double, or for the square taken for the
+    // modulus, faults in a parse.
     RecordFault(f.Number());
+    parseOverflowed_ = true;
   }
 }
 
@@ -351,18 +353,18 @@ void ComplexNumber::ParsePolar() {
       return;
     }
     const std::string modulusText = s.substr(0, separator - 1);
-    if (IsNumericText(modulusText)) {
+    if (expr::IsNumericText(modulusText)) {
       modulus_ = expr::TextToNumber(modulusText);
     } else {
       SetParseFailure(kNotNumeric, kBadPolar);
     }
     const std::string angleText = s.substr(separator, length - separator);
-    if (IsNumericText(angleText)) {
+    if (expr::IsNumericText(angleText)) {
       StoreAngle(expr::TextToNumber(angleText));
     } else {
       SetParseFailure(kNotNumeric, kBadPolar);
     }
-    if (degrees) StoreAngle(Quot(Mul(pi_, Angle()), 180));
+    if (degrees) StoreAngle(expr::CheckedDiv(expr::CheckedMul(pi_, Angle()), 180));
     PolarToRectangularCore();
   } catch (const Fault& f) {
     RecordFault(f.Number());
@@ -379,8 +381,8 @@ void ComplexNumber::PolarToRectangular() {
 }
 
 void ComplexNumber::PolarToRectangularCore() {
-  real_ = Mul(Checked(std::cos(Angle())), modulus_);
-  imaginary_ = Mul(Checked(std::sin(Angle())), modulus_);
+  real_ = expr::CheckedMul(expr::Checked(std::cos(Angle())), modulus_);
+  imaginary_ = expr::CheckedMul(expr::Checked(std::sin(Angle())), modulus_);
   conjImaginary_ = -imaginary_;
 }
 
@@ -396,7 +398,7 @@ void ComplexNumber::RectangularToPolar() {
 void ComplexNumber::RectangularToPolarCore() {
   const double x = real_;
   const double y = imaginary_;
-  modulus_ = std::sqrt(Sum(Mul(x, x), Mul(y, y)));
+  modulus_ = std::sqrt(expr::CheckedAdd(expr::CheckedMul(x, x), expr::CheckedMul(y, y)));
   // The quadrant step: nothing for x and y not negative, pi for x negative
   // (y of either sign), 2 pi for y negative and x not negative.
   int turn = 0;
@@ -408,7 +410,7 @@ void ComplexNumber::RectangularToPolarCore() {
     turn = 2;
   }
   if (x != 0) {
-    angleRatio_ = Quot(y, x);
+    angleRatio_ = expr::CheckedDiv(y, x);
     angleTurn_ = turn;
     anglePending_ = true;
     return;
@@ -456,6 +458,7 @@ void ComplexNumber::CopyRectText(const ComplexNumber& other) {
     angleRatio_ = other.angleRatio_;
     angleTurn_ = other.angleTurn_;
     parsedClean_ = true;
+    parseOverflowed_ = false;
     return;
   }
   ParseRectangular();

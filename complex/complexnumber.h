@@ -8,6 +8,10 @@
 
 namespace velmora::complex {
 
+// The message of a rectangular text that cannot be read as a number: the
+// parser's ErrDescription, and the message of a matrix entry refused.
+inline constexpr const char* kInvalidComplexNumber = "You must enter a valid complex number.";
+
 // A complex number held in both forms at once, rectangular and polar, with
 // the texts of both forms, the roots of its last root extraction and the code
 // of its last failure. It is the value behind every matrix entry.
@@ -48,6 +52,11 @@ class ComplexNumber {
 
   // Storing a text parses it.
   void SetRectText(std::string text);
+  // True when the last rectangular parse met a number too large to hold: a
+  // part beyond the range of a double, or one whose square (for the modulus)
+  // is. The overflow is recorded as any fault; a reader of typed entries
+  // refuses such an entry instead of taking the numbers it was left with.
+  bool ParseOverflowed() const { return parseOverflowed_; }
   const std::string& RectText() const { return rectText_.Text(); }
   void SetPolarText(std::string text);
   const std::string& PolarText() const { return polarText_; }
@@ -121,6 +130,7 @@ class ComplexNumber {
   // True while the numbers are exactly what a new object would hold after
   // parsing RectText: then a copy through the text may copy the numbers.
   bool parsedClean_ = false;
+  bool parseOverflowed_ = false;
 };
 
 }  // namespace velmora::complex

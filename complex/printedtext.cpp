@@ -5,6 +5,7 @@
 
 #include "complex/printshortcut.h"
 #include "complex/strtext.h"
+#include "expr/fault.h"
 #include "expr/numtext.h"
 
 namespace velmora::complex {
@@ -15,7 +16,18 @@ PrintedText PrintedText::Print(double re, double im, int places, bool conjugate)
   return t;
 }
 
-void PrintedText::SetPrint(double re, double im, int places, bool conjugate) {
+int PrintedText::SetPrint(double re, double im, int places, bool conjugate) {
+  // Only the very largest values can fault in the rounding; try them now, so
+  // that a lazy print can never fault when it is read.
+  constexpr double kNearLargest = 1e308;
+  if (std::fabs(re) >= kNearLargest || std::fabs(im) >= kNearLargest) {
+    try {
+      RoundPlaces(re, places);
+      RoundPlaces(std::fabs(im), places);
+    } catch (const expr::Fault& f) {
+      return f.Number();
+    }
+  }
   text_.clear();
   built_ = false;
   printed_ = true;
@@ -25,11 +37,12 @@ void PrintedText::SetPrint(double re, double im, int places, bool conjugate) {
   re_ = re;
   im_ = im;
   if (!PrintShortcuts()) Build();
+  return 0;
 }
 
 void PrintedText::Build() const {
-  const std::string r = ShortText(RoundPlaces(re_, places_));
-  const std::string i = ShortText(RoundPlaces(std::fabs(im_), places_));
+  const std::string r = PositionalText(RoundPlaces(re_, places_));
+  const std::string i = PositionalText(RoundPlaces(std::fabs(im_), places_));
   if (expr::TextToNumber(i) == 0) {
     text_ = r;
   } else if ((im_ < 0) != conjugate_) {
@@ -55,16 +68,21 @@ void PrintedText::Squeeze() {
 
 bool PrintedText::PlainValues(double& re, double& im) const {
   if (!printed_ || !PrintShortcuts()) return false;
-  const double r = RoundPlaces(re_, places_);
-  const double i = RoundPlaces(std::fabs(im_), places_);
-  if (!PrintsPlain(r) || !PrintsPlain(i)) return false;
-  re = r + 0.0;  // "-0" is never printed: the text reads back as 0
-  if (i == 0) {
-    im = 0;
-  } else {
-    im = (im_ < 0) != conjugate_ ? -i : i;
+  // A print holds finite parts whose rounding was tried when it was made, so
+  // the rounding below cannot fault; the trap keeps this a promise.
+  try {
+    const double r = RoundPlaces(re_, places_);
+    const double i = RoundPlaces(std::fabs(im_), places_);
+    re = r + 0.0;  // "-0" is never printed: the text reads back as 0
+    if (i == 0) {
+      im = 0;
+    } else {
+      im = (im_ < 0) != conjugate_ ? -i : i;
+    }
+    return true;
+  } catch (const expr::Fault&) {
+    return false;
   }
-  return true;
 }
 
 }  // namespace velmora::complex

@@ -18,10 +18,14 @@ class PrintedText {
 
   // The print of re + j im to `places` decimals: "R + jI", "R - jI" or "R"
   // when the imaginary part rounds to nothing. With `conjugate` the sign
-  // before the j is the other one.
+  // before the j is the other one. The parts are written in positional form
+  // (".00001", not "1E-05"), so that the text reads back as the numbers it
+  // shows. Both parts must be finite.
   static PrintedText Print(double re, double im, int places, bool conjugate);
-  // The same print, made in place.
-  void SetPrint(double re, double im, int places, bool conjugate);
+  // The same print, made in place. A part whose rounding overflows (within
+  // half a 15-digit step of the largest double) cannot be printed: then the
+  // text is left as it was and the fault number is returned; otherwise 0.
+  int SetPrint(double re, double im, int places, bool conjugate);
 
   const std::string& Text() const;
   bool Empty() const;
@@ -29,8 +33,8 @@ class PrintedText {
   // Drops every blank, as the rectangular parser does to its input.
   void Squeeze();
 
-  // When this is a print whose parts both print in plain form, gives the
-  // values that the rectangular parser reads from its text and returns true.
+  // When this is a print, gives the values that the rectangular parser reads
+  // from its text and returns true. Never throws.
   bool PlainValues(double& re, double& im) const;
 
  private:

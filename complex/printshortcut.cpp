@@ -100,11 +100,6 @@ double RoundPlaces(double x, int places) {
   return x < 0 ? -value : value;
 }
 
-bool PrintsPlain(double rounded) {
-  const double a = std::fabs(rounded);
-  return a == 0.0 || (a >= kPlainLow && a < kPlainHigh);
-}
-
 namespace detail {
 bool gPrintShortcuts = true;
 }  // namespace detail

@@ -5,8 +5,8 @@
 // A matrix entry keeps its value as the text of its last print, so every
 // step of an elimination prints a number to 15 places and reads it back. The
 // value that comes back is a pure function of the number printed and the
-// places: for a text in plain (not exponent) form it is the rounded number
-// itself. The shortcuts compute that value without building the text. They
+// places: the print is positional (never in exponent form), so it is the
+// rounded number itself. The shortcuts compute that value without building the text. They
 // are on by default; turning them off sends every value through its
 // characters, which the tests and the benchmark use to prove that both roads
 // give the same digits.
@@ -17,10 +17,6 @@ namespace velmora::complex {
 // and places 0 to 15 take an integer road that needs no text; the rest (and
 // every value while the shortcuts are off) goes through expr::RoundTo.
 double RoundPlaces(double x, int places);
-
-// True when a rounded value prints in plain form (no exponent), so that its
-// text reads back as the same number through the rectangular parser.
-bool PrintsPlain(double rounded);
 
 namespace detail {
 extern bool gPrintShortcuts;

@@ -1,7 +1,6 @@
 #pragma once
 
 #include <string>
-#include <string_view>
 
 // The printed form of a number on the matrix side. It differs from the
 // formula path's NumberToText in two ways: a plain value below 1 has no zero
@@ -17,9 +16,10 @@ std::string StrText(double x);
 // The same without the leading blank.
 std::string ShortText(double x);
 
-// True when the whole text, blanks around it allowed, reads as one number:
-// an optional sign, digits with at most one point (at least one digit), and
-// an optional exponent of "E" or "e", an optional sign and digits.
-bool IsNumericText(std::string_view text);
+// ShortText's digits in positional form, never with an exponent: ".00001",
+// "219524109102890000000". Rectangular prints are written so, because their
+// text is read back by the rectangular parser, which takes any letter for the
+// imaginary unit.
+std::string PositionalText(double x);
 
 }  // namespace velmora::complex

@@ -6,6 +6,8 @@
 #include <functional>
 #include <utility>
 
+#include "base/asciicase.h"
+#include "expr/checked.h"
 #include "expr/fault.h"
 #include "expr/functionlibrary.h"
 #include "expr/numtext.h"
@@ -18,19 +20,6 @@ namespace {
 constexpr std::size_t kNone = std::string_view::npos;
 
 bool IsDigit(char c) { return c >= '0' && c <= '9'; }
-
-// Every step of the arithmetic is checked, as the platform checks floating
-// point: a result that is not finite is a fault.
-double Checked(double value) {
-  if (std::isnan(value)) throw Fault(Fault::kInvalidCall);
-  if (!std::isfinite(value)) throw Fault(Fault::kOverflow);
-  return value;
-}
-
-double CheckedDivide(double a, double b) {
-  if (b == 0) throw Fault(Fault::kDivisionByZero);
-  return Checked(a / b);
-}
 
 // The module's state beside the class: the argument Evaluate3 names in its
 // failure box and the flag it raises after every failure it reports.
@@ -96,11 +85,7 @@ Evaluator::Evaluator(platform::MessageBox* messages, ActiveWindow* window)
 // Public surface
 
 void Evaluator::SetExpression(std::string_view text) {
-  std::string prepared = RemoveSpaces(text);
-  for (char& c : prepared) {
-    if (c >= 'a' && c <= 'z') c = static_cast<char>(c - 'a' + 'A');
-  }
-  expression_ = ReplaceText(prepared, ".", ",");
+  expression_ = ReplaceText(base::UpperCase(RemoveSpaces(text)), ".", ",");
   MapBrackets();
 }
 
@@ -163,31 +148,7 @@ bool Evaluator::IsItOdd(std::string_view text) {
   return ((text.back() - '0') & 1) != 0;
 }
 
-bool Evaluator::IsNumber(std::string_view value) {
-  // A whole text that reads as one decimal number: blanks around it, an
-  // optional sign, digits with at most one ".", an optional exponent.
-  std::size_t i = 0;
-  const std::size_t n = value.size();
-  auto blank = [&](std::size_t k) { return k < n && (value[k] == ' ' || value[k] == '\t'); };
-  while (blank(i)) ++i;
-  if (i < n && (value[i] == '+' || value[i] == '-')) ++i;
-  std::size_t digits = 0;
-  while (i < n && IsDigit(value[i])) ++i, ++digits;
-  if (i < n && value[i] == '.') {
-    ++i;
-    while (i < n && IsDigit(value[i])) ++i, ++digits;
-  }
-  if (digits == 0) return false;
-  if (i < n && (value[i] == 'e' || value[i] == 'E')) {
-    ++i;
-    if (i < n && (value[i] == '+' || value[i] == '-')) ++i;
-    std::size_t expDigits = 0;
-    while (i < n && IsDigit(value[i])) ++i, ++expDigits;
-    if (expDigits == 0) return false;
-  }
-  while (blank(i)) ++i;
-  return i == n;
-}
+bool Evaluator::IsNumber(std::string_view value) { return IsNumericText(value); }
 
 std::string Evaluator::MidMbcs(std::string_view text, int start, int length) {
   // Counted in bytes of the text's multi-byte form, which is how the text is
@@ -260,7 +221,7 @@ double Evaluator::EvalSum(std::string_view text) {
   // trapping term or function, or, for the outermost sum, Result's caller.
   double sum = 0.0;
   for (const std::string_view piece : SplitTerms(text, '+', '-')) {
-    sum = Checked(sum + EvalTerm(piece));
+    sum = CheckedAdd(sum, EvalTerm(piece));
   }
   return sum;
 }
@@ -290,15 +251,16 @@ double Evaluator::EvalTerm(std::string_view text) {
       // after it in this evaluation runs.
       if (error_ != kOk) break;
       switch (op) {
-        case '+': accumulator = Checked(accumulator + value); break;
-        case '*': accumulator = Checked(accumulator * value); break;
-        case '/': accumulator = CheckedDivide(accumulator, value); break;
+        case '+': accumulator = CheckedAdd(accumulator, value); break;
+        case '*': accumulator = CheckedMul(accumulator, value); break;
+        case '/': accumulator = CheckedDiv(accumulator, value); break;
         default: break;
       }
     }
     return accumulator;
   } catch (const Fault&) {
-    error_ = kRuntime;
+    // A fault met after an earlier failure does not replace its code.
+    if (error_ == kOk) error_ = kRuntime;
     return 0.0;
   }
 }
@@ -429,6 +391,10 @@ double Evaluator::EvalFunction(std::string_view name, std::string_view inner) {
       error_ = kSyntax;
       return 0.0;
     }
+    // An argument that failed leaves 0 behind: applying the function to it
+    // would fault (LN, COT, GAMMA, ...) and overwrite the argument's code
+    // with 16, so a wrong text would pass for an undefined point.
+    if (error_ != kOk) return 0.0;
     if (*fn == Fn::Asec || *fn == Fn::Acsc) {
       // These two tell the window whether to draw the point.
       if (OutsideSentinelDomain(*fn, x)) {
@@ -442,7 +408,7 @@ double Evaluator::EvalFunction(std::string_view name, std::string_view inner) {
     }
     value = Checked(Apply(*fn, x));
   } catch (const Fault&) {
-    error_ = kRuntime;
+    if (error_ == kOk) error_ = kRuntime;
   }
   return value;
 }
@@ -456,15 +422,15 @@ double Evaluator::Power(double a, double b) {
   const std::string y3 = graph.TxtY3();
   const bool rational = label == "OK" && !imenilac.empty() && !y3.empty() && imenilac != y3 &&
                         IsDigit(imenilac.back()) && IsDigit(y3.back());
-  if (!rational) return CheckedPower(a, b);
+  if (!rational) return CheckedPow(a, b);
   const bool p = IsItOdd(y3);
   const bool q = IsItOdd(imenilac);
   const bool r = IsItOdd(graph.TxtY2());
   // Equal last digits with an odd Q: the plain power at once, which refuses
   // a negative base with a fractional exponent whatever the table says.
-  if (q && imenilac.back() == y3.back()) return CheckedPower(a, b);
+  if (q && imenilac.back() == y3.back()) return CheckedPow(a, b);
   if (const RationalRow* row = FindRationalRow(a, b, p, q, r)) return ApplyRationalForm(row->form, a, b);
-  return CheckedPower(a, b);
+  return CheckedPow(a, b);
 }
 
 GraphFields& Evaluator::Graph() {

@@ -24,8 +24,10 @@ namespace velmora::expr {
 //   operand = "(" sum ")" | number | NAME "(" sum ")"
 //
 // Errors are kept in Error (the first one found stands, except that text
-// left behind a factor turns a 4 into a 2); run-time faults inside a term or
-// a function call are trapped as error 16.
+// left behind a factor turns a 4 into a 2, and an unknown name turns the code
+// of its argument into a 2); run-time faults inside a term or a function call
+// are trapped as error 16 unless a code is already set. A function whose
+// argument failed is not applied, so "LN(1E5)" keeps the argument's 4.
 //
 // One fault is not trapped: the additions of the outermost sum have no trap
 // of their own, so a sum of finite terms that overflows (for example two

@@ -1,14 +1,14 @@
 #include "expr/formulacalculus.h"
 
 #include <cmath>
-#include <limits>
+
+#include "expr/checked.h"
 
 namespace velmora::expr {
 namespace {
 
-constexpr double kFault = std::numeric_limits<double>::quiet_NaN();
-
-inline double Checked(double v) { return std::isfinite(v) ? v : kFault; }
+// These routines hand a fault back as a value, as the formula engine does.
+constexpr double kFault = kFaultValue;
 
 }  // namespace
 
@@ -36,7 +36,7 @@ double Derivative(const RealFunction& f, double parameter, double x) {
   // so the check at the end covers every step.
   // The symmetric pairs are taken apart first, so that equal values cancel
   // exactly before anything is scaled.
-  return Checked(((fm2 - fp2) + 8 * (fp1 - fm1)) / (12 * h));
+  return FiniteOrFault(((fm2 - fp2) + 8 * (fp1 - fm1)) / (12 * h));
 }
 
 long SegmentCount(double segments) {
@@ -68,7 +68,7 @@ double SimpsonIntegral(const RealFunction& f, double segments, double a, double 
       even += y;
     }
   }
-  return Checked((ends + 4 * odd + 2 * even) * h / 3);
+  return FiniteOrFault((ends + 4 * odd + 2 * even) * h / 3);
 }
 
 double TrapezoidSum(const RealFunction& f, double segments, double a, double b) {
@@ -86,7 +86,7 @@ double TrapezoidSum(const RealFunction& f, double segments, double a, double b) 
     if (std::isnan(y)) return kFault;
     inner += y;
   }
-  return Checked(fa / 2 + inner + fb / 2);
+  return FiniteOrFault(fa / 2 + inner + fb / 2);
 }
 
 }  // namespace velmora::expr

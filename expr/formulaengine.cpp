@@ -7,6 +7,7 @@
 #include <string>
 #include <vector>
 
+#include "base/asciicase.h"
 #include "expr/formulacalculus.h"
 #include "expr/formulacompiler.h"
 #include "expr/formulamachine.h"
@@ -24,16 +25,12 @@ std::string_view TrimBlanks(std::string_view text) {
   return text;
 }
 
-char Lower(char c) { return (c >= 'A' && c <= 'Z') ? static_cast<char>(c - 'A' + 'a') : c; }
-
 // True when `text` is `name(...)` with `name` in any letter case, blanks
 // allowed before the bracket; `inner` gets what stands between the first "("
 // and the final ")".
 bool MatchCommand(std::string_view text, std::string_view lowerName, std::string_view& inner) {
   if (text.size() < lowerName.size() + 2 || text.back() != ')') return false;
-  for (std::size_t i = 0; i < lowerName.size(); ++i) {
-    if (Lower(text[i]) != lowerName[i]) return false;
-  }
+  if (!base::EqualsIgnoringCase(text.substr(0, lowerName.size()), lowerName)) return false;
   std::size_t i = lowerName.size();
   while (i < text.size() && IsBlank(text[i])) ++i;
   if (i >= text.size() - 1 || text[i] != '(') return false;
@@ -114,24 +111,11 @@ struct FormulaEngine::Impl {
   void Set(std::string_view text) {
     const std::string_view t = TrimBlanks(text);
     std::string_view inner;
-    if (!t.empty()) {
-      switch (Lower(t.front())) {
-        case 'p':
-          if (MatchCommand(t, "popall", inner)) return PopAll(inner);
-          if (MatchCommand(t, "push", inner)) return Push(inner);
-          break;
-        case 'd':
-          if (MatchCommand(t, "diff", inner)) return BodyCommand(Kind::Derivative, inner);
-          break;
-        case 'i':
-          if (MatchCommand(t, "intg", inner)) return BodyCommand(Kind::Integral, inner);
-          break;
-        case 't':
-          if (MatchCommand(t, "trap", inner)) return BodyCommand(Kind::TrapezoidSum, inner);
-          break;
-        default: break;
-      }
-    }
+    if (MatchCommand(t, "popall", inner)) return PopAll(inner);
+    if (MatchCommand(t, "push", inner)) return Push(inner);
+    if (MatchCommand(t, "diff", inner)) return BodyCommand(Kind::Derivative, inner);
+    if (MatchCommand(t, "intg", inner)) return BodyCommand(Kind::Integral, inner);
+    if (MatchCommand(t, "trap", inner)) return BodyCommand(Kind::TrapezoidSum, inner);
     Finish(Kind::Value, EvaluateValue(t));
   }
 

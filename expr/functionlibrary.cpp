@@ -6,22 +6,23 @@
 #include <chrono>
 #include <cmath>
 #include <ctime>
-#include <limits>
 #include <string>
+
+#include "base/asciicase.h"
+#include "expr/checked.h"
 
 namespace velmora::expr {
 namespace {
 
-constexpr double kFault = std::numeric_limits<double>::quiet_NaN();
-
 // Every step of the program's arithmetic is checked: a result that is not
-// finite is a fault, and a fault stays a fault through what follows.
-inline double Chk(double v) { return std::isfinite(v) ? v : kFault; }
-inline double Div(double a, double b) { return b == 0.0 ? kFault : Chk(a / b); }
-inline double Pow(double a, double b) { return Chk(std::pow(a, b)); }
+// finite is a fault, and a fault stays a fault through what follows. The
+// library hands faults back as values, for the formula engine's sake.
+constexpr double kFault = kFaultValue;
+inline double Div(double a, double b) { return b == 0.0 ? kFault : FiniteOrFault(a / b); }
+inline double Pow(double a, double b) { return FiniteOrFault(std::pow(a, b)); }
 inline double Sqrt(double x) { return x < 0.0 ? kFault : std::sqrt(x); }
 inline double Ln(double x) { return x <= 0.0 ? kFault : std::log(x); }
-inline double Exp(double x) { return Chk(std::exp(x)); }
+inline double Exp(double x) { return FiniteOrFault(std::exp(x)); }
 inline double Sgn(double x) { return x > 0.0 ? 1.0 : (x < 0.0 ? -1.0 : 0.0); }
 inline double HalfPi() { return 2.0 * std::atan(1.0); }
 
@@ -99,12 +100,12 @@ double Hyperbolic(Fn fn, double x) {
   const double ep = Exp(x);
   const double em = Exp(-x);
   switch (fn) {
-    case Fn::HSin: return Div(Chk(ep - em), 2.0);
-    case Fn::HCos: return Div(Chk(ep + em), 2.0);
-    case Fn::HTan: return Div(Chk(ep - em), Chk(ep + em));
-    case Fn::HSec: return Div(2.0, Chk(ep + em));
-    case Fn::HCsc: return Div(2.0, Chk(ep - em));
-    case Fn::HCot: return Div(Chk(ep + em), Chk(ep - em));
+    case Fn::HSin: return Div(FiniteOrFault(ep - em), 2.0);
+    case Fn::HCos: return Div(FiniteOrFault(ep + em), 2.0);
+    case Fn::HTan: return Div(FiniteOrFault(ep - em), FiniteOrFault(ep + em));
+    case Fn::HSec: return Div(2.0, FiniteOrFault(ep + em));
+    case Fn::HCsc: return Div(2.0, FiniteOrFault(ep - em));
+    case Fn::HCot: return Div(FiniteOrFault(ep + em), FiniteOrFault(ep - em));
     default: return kFault;
   }
 }
@@ -114,7 +115,7 @@ double Four(double x) {
   for (int i = 1; i <= 9999; i += 2) {
     sum += std::sin(static_cast<double>(i) * x) / static_cast<double>(i);
   }
-  return Chk(sum);
+  return FiniteOrFault(sum);
 }
 
 double Blanc(double x) {
@@ -123,9 +124,9 @@ double Blanc(double x) {
     x = x - std::floor(x);
     const double t = x < 0.5 ? x : 1.0 - x;
     sum += t / std::pow(2.0, n);
-    x = Chk(x * 2.0);
+    x = FiniteOrFault(x * 2.0);
   }
-  return Chk(sum);
+  return FiniteOrFault(sum);
 }
 
 struct LocalClock {
@@ -166,12 +167,7 @@ std::optional<Fn> FindEvaluatorFunction(std::string_view upperName) {
 
 std::optional<Fn> FindEngineFunction(std::string_view name) {
   if (name.size() > 16) return std::nullopt;
-  std::array<char, 16> upper{};
-  for (std::size_t i = 0; i < name.size(); ++i) {
-    const char c = name[i];
-    upper[i] = (c >= 'a' && c <= 'z') ? static_cast<char>(c - 'a' + 'A') : c;
-  }
-  const std::string_view key(upper.data(), name.size());
+  const std::string key = base::UpperCase(name);  // short: no allocation
   if (auto fn = FindIn(kEvaluatorNames, key)) return fn;
   return FindIn(kEngineOnlyNames, key);
 }
@@ -187,7 +183,7 @@ double Factorial2(int n) {
   // n * factorial2(n - 1) unrolled: the recursion multiplies from the bottom up.
   double value = 1.0;
   for (int k = 1; k <= n; ++k) {
-    value = Chk(static_cast<double>(k) * value);
+    value = FiniteOrFault(static_cast<double>(k) * value);
     if (std::isnan(value)) return kFault;
   }
   return value;
@@ -202,20 +198,20 @@ double Gamma(double x) {
     return kFault;
   }
   double s = Div(76.1800917294715, x + 1);
-  s = Chk(s - Div(86.5053203294168, x + 2));
-  s = Chk(s + Div(24.0140982408309, x + 3));
-  s = Chk(s - Div(1.23173957245016, x + 4));
-  s = Chk(s + Div(0.00120865097386618, x + 5));
-  s = Chk(s - Div(5.395239384953E-06, x + 6));
+  s = FiniteOrFault(s - Div(86.5053203294168, x + 2));
+  s = FiniteOrFault(s + Div(24.0140982408309, x + 3));
+  s = FiniteOrFault(s - Div(1.23173957245016, x + 4));
+  s = FiniteOrFault(s + Div(0.00120865097386618, x + 5));
+  s = FiniteOrFault(s - Div(5.395239384953E-06, x + 6));
   const double p = Pow(x + 5.5, x + 0.5);
   const double e = std::bit_cast<double>(std::uint64_t{0x4005BF0A8B145774});
   const double value = Div(std::sqrt(6.28318530717958), x) * (s + 1.00000000019001) * p;
-  return Chk(Chk(value) * Pow(e, -(x + 5.5)));
+  return FiniteOrFault(FiniteOrFault(value) * Pow(e, -(x + 5.5)));
 }
 
 double Beta(double x, double y) {
-  const double num = Chk(Chk((x + y) * Gamma(x + 1)) * Gamma(y + 1));
-  const double den = Chk(Chk(x * y) * Gamma(x + y + 1));
+  const double num = FiniteOrFault(FiniteOrFault((x + y) * Gamma(x + 1)) * Gamma(y + 1));
+  const double den = FiniteOrFault(FiniteOrFault(x * y) * Gamma(x + y + 1));
   return Div(num, den);
 }
 
@@ -257,16 +253,17 @@ double Apply(Fn fn, double x) {
       if (x > 0) return Pow(x, 1.0 / 5.0);
       if (x == 0) return 0.0;
       return -Pow(-x, 1.0 / 5.0);
-    case Fn::Sin: return Chk(std::sin(x));
-    case Fn::Cos: return Chk(std::cos(x));
-    case Fn::Tan: return Chk(std::tan(x));
-    case Fn::Cot: return Div(1.0, Chk(std::tan(x)));
-    case Fn::Sec: return Div(1.0, Chk(std::cos(x)));
-    case Fn::Csc: return Div(1.0, Chk(std::sin(x)));
+    case Fn::Sin: return FiniteOrFault(std::sin(x));
+    case Fn::Cos: return FiniteOrFault(std::cos(x));
+    case Fn::Tan: return FiniteOrFault(std::tan(x));
+    case Fn::Cot: return Div(1.0, FiniteOrFault(std::tan(x)));
+    case Fn::Sec: return Div(1.0, FiniteOrFault(std::cos(x)));
+    case Fn::Csc: return Div(1.0, FiniteOrFault(std::sin(x)));
     case Fn::Atn: return std::atan(x);
-    case Fn::Asin: return std::atan(Div(x, Sqrt(Chk(1 - x * x))));
-    case Fn::Acos: return Chk(std::atan(Div(-x, Sqrt(Chk(1 - x * x)))) + 2 * std::atan(1.0));
-    case Fn::Acot: return Chk(std::atan(x) + 2 * std::atan(1.0));
+    case Fn::Asin: return std::atan(Div(x, Sqrt(FiniteOrFault(1 - x * x))));
+    case Fn::Acos:
+      return FiniteOrFault(std::atan(Div(-x, Sqrt(FiniteOrFault(1 - x * x)))) + 2 * std::atan(1.0));
+    case Fn::Acot: return FiniteOrFault(std::atan(x) + 2 * std::atan(1.0));
     case Fn::Exp: return Exp(x);
     case Fn::Ln: return Ln(x);
     case Fn::Log: return Div(Ln(x), std::log(10.0));
@@ -277,23 +274,23 @@ double Apply(Fn fn, double x) {
     case Fn::Rnd: return static_cast<double>(NextRandom(x));
     case Fn::Asec:
       if (OutsideSentinelDomain(fn, x)) return kSentinel;
-      return Chk(std::atan(Div(x, Sqrt(Chk(x * x - 1)))) + Sgn(x - 1) * HalfPi());
+      return FiniteOrFault(std::atan(Div(x, Sqrt(FiniteOrFault(x * x - 1)))) + Sgn(x - 1) * HalfPi());
     case Fn::Acsc:
       if (OutsideSentinelDomain(fn, x)) return kSentinel;
-      return Chk(std::atan(Div(x, Sqrt(Chk(x * x - 1)))) + (Sgn(x) - 1) * HalfPi());
+      return FiniteOrFault(std::atan(Div(x, Sqrt(FiniteOrFault(x * x - 1)))) + (Sgn(x) - 1) * HalfPi());
     case Fn::HSin:
     case Fn::HCos:
     case Fn::HTan:
     case Fn::HSec:
     case Fn::HCsc:
     case Fn::HCot: return Hyperbolic(fn, x);
-    case Fn::HAsin: return Ln(Chk(x + Sqrt(Chk(x * x + 1))));
-    case Fn::HAcos: return Ln(Chk(x + Sqrt(Chk(x * x - 1))));
+    case Fn::HAsin: return Ln(FiniteOrFault(x + Sqrt(FiniteOrFault(x * x + 1))));
+    case Fn::HAcos: return Ln(FiniteOrFault(x + Sqrt(FiniteOrFault(x * x - 1))));
     case Fn::HAtan: return Div(Ln(Div(1 + x, 1 - x)), 2.0);
-    case Fn::HAsec: return Ln(Div(Sqrt(Chk(1 - x * x)) + 1, x));
-    case Fn::HAcsc: return Ln(Div(Chk(Sgn(x) * Sqrt(Chk(x * x + 1)) + 1), x));
+    case Fn::HAsec: return Ln(Div(Sqrt(FiniteOrFault(1 - x * x)) + 1, x));
+    case Fn::HAcsc: return Ln(Div(FiniteOrFault(Sgn(x) * Sqrt(FiniteOrFault(x * x + 1)) + 1), x));
     case Fn::HAcot: return Div(Ln(Div(x + 1, x - 1)), 2.0);
-    case Fn::Stef: return Chk(std::cos(x) * (std::sin(x) * 10));
+    case Fn::Stef: return FiniteOrFault(std::cos(x) * (std::sin(x) * 10));
     case Fn::Four: return Four(x);
     case Fn::Blanc: return Blanc(x);
     case Fn::Gamma:
@@ -319,8 +316,8 @@ double Apply(Fn fn, double x) {
     case Fn::Pi: return 4 * std::atan(1.0);
     case Fn::Degree: return 4 * std::atan(1.0) / 180;
     case Fn::E: return std::exp(1.0);
-    case Fn::Rad: return Chk(x * (4 * std::atan(1.0) / 180));
-    case Fn::Deg: return Chk(x * (180 / (4 * std::atan(1.0))));
+    case Fn::Rad: return FiniteOrFault(x * (4 * std::atan(1.0) / 180));
+    case Fn::Deg: return FiniteOrFault(x * (180 / (4 * std::atan(1.0))));
   }
   return kFault;
 }

@@ -2,6 +2,7 @@
 
 #include <array>
 
+#include "base/asciicase.h"
 #include "expr/evaluator.h"
 #include "expr/numtext.h"
 #include "expr/replacetext.h"
@@ -186,10 +187,8 @@ constexpr std::array kToolLower = {
 };
 
 void ToCase(std::string& text, ChainCase letterCase) {
-  for (char& c : text) {
-    if (letterCase == ChainCase::Upper && c >= 'a' && c <= 'z') c = static_cast<char>(c - 'a' + 'A');
-    if (letterCase == ChainCase::Lower && c >= 'A' && c <= 'Z') c = static_cast<char>(c - 'A' + 'a');
-  }
+  if (letterCase == ChainCase::Upper) text = base::UpperCase(text);
+  if (letterCase == ChainCase::Lower) text = base::LowerCase(text);
 }
 
 }  // namespace

@@ -147,6 +147,68 @@ std::string NumberToText(double x) {
   return std::string(buffer.data(), n);
 }
 
+std::string NumberToPositionalText(double x) {
+  std::array<char, kNumberTextMax> buffer{};
+  const std::size_t n = NumberToText(x, buffer.data());
+  const std::string_view general(buffer.data(), n);
+  const std::size_t e = general.find('E');
+  if (e == std::string_view::npos) return std::string(general);
+  // d.dddE+XX: the digits without the point, and the place of the first one.
+  std::string_view mantissa = general.substr(0, e);
+  std::string text;
+  if (!mantissa.empty() && mantissa.front() == '-') {
+    text.push_back('-');
+    mantissa.remove_prefix(1);
+  }
+  std::string digits;
+  for (const char c : mantissa)
+    if (IsDigit(c)) digits.push_back(c);
+  int exp10 = 0;
+  const std::string_view exponent = general.substr(e + 1);
+  const bool negative = !exponent.empty() && exponent.front() == '-';
+  for (const char c : exponent)
+    if (IsDigit(c)) exp10 = exp10 * 10 + (c - '0');
+  if (negative) exp10 = -exp10;
+  const auto count = static_cast<int>(digits.size());
+  if (exp10 < 0) {
+    text += "0.";
+    text.append(static_cast<std::size_t>(-exp10 - 1), '0');
+    text += digits;
+  } else if (exp10 + 1 >= count) {
+    text += digits;
+    text.append(static_cast<std::size_t>(exp10 + 1 - count), '0');
+  } else {
+    text += digits.substr(0, static_cast<std::size_t>(exp10 + 1));
+    text += '.';
+    text += digits.substr(static_cast<std::size_t>(exp10 + 1));
+  }
+  return text;
+}
+
+bool IsNumericText(std::string_view text) {
+  std::size_t i = 0;
+  std::size_t end = text.size();
+  const auto blank = [](char c) { return c == ' ' || c == '\t'; };
+  while (i < end && blank(text[i])) ++i;
+  while (end > i && blank(text[end - 1])) --end;
+  if (i < end && (text[i] == '+' || text[i] == '-')) ++i;
+  std::size_t digits = 0;
+  while (i < end && IsDigit(text[i])) ++i, ++digits;
+  if (i < end && text[i] == '.') {
+    ++i;
+    while (i < end && IsDigit(text[i])) ++i, ++digits;
+  }
+  if (digits == 0) return false;
+  if (i < end && (text[i] == 'e' || text[i] == 'E')) {
+    ++i;
+    if (i < end && (text[i] == '+' || text[i] == '-')) ++i;
+    std::size_t exponentDigits = 0;
+    while (i < end && IsDigit(text[i])) ++i, ++exponentDigits;
+    if (exponentDigits == 0) return false;
+  }
+  return i == end;
+}
+
 double TextToNumber(std::string_view text) {
   std::size_t i = 0;
   const std::size_t n = text.size();

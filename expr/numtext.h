@@ -28,6 +28,18 @@ std::string NumberToText(double x);
 inline constexpr std::size_t kNumberTextMax = 32;
 std::size_t NumberToText(double x, char* buffer);
 
+// The same 15 significant digits in positional form, never with an
+// exponent: "0.00001" for 1E-05, "219524109102890000000" for
+// 2.1952410910289E+20. It is the form of texts the program writes for itself
+// and reads back, where an exponent letter could be taken for something else.
+// Non-finite values give the spellings above.
+std::string NumberToPositionalText(double x);
+
+// True when the whole text reads as one decimal number: blanks (space or
+// tab) around it, an optional sign, digits with at most one "." and at least
+// one digit, and an optional exponent ("E" or "e", an optional sign, digits).
+bool IsNumericText(std::string_view text);
+
 // The leading-number parse: leading blanks, an optional sign, digits, one
 // ".", digits and an optional exponent; it stops without complaint at the
 // first other character, and a text with no leading number is 0. "," is no

@@ -3,7 +3,7 @@
 #include <array>
 #include <cmath>
 
-#include "expr/fault.h"
+#include "expr/checked.h"
 
 namespace velmora::expr {
 namespace {
@@ -58,21 +58,13 @@ const RationalRow* FindRationalRow(double a, double b, bool p, bool q, bool r) {
   return nullptr;
 }
 
-double CheckedPower(double a, double b) {
-  if (a == 0 && b < 0) throw Fault(Fault::kDivisionByZero);
-  const double value = std::pow(a, b);
-  if (std::isnan(value)) throw Fault(Fault::kInvalidCall);
-  if (!std::isfinite(value)) throw Fault(Fault::kOverflow);
-  return value;
-}
-
 double ApplyRationalForm(RationalForm form, double a, double b) {
   switch (form) {
-    case Plain: return CheckedPower(a, b);
-    case NegatedOfNegated: return -CheckedPower(-a, b);
-    case OfNegated: return CheckedPower(-a, b);
+    case Plain: return CheckedPow(a, b);
+    case NegatedOfNegated: return -CheckedPow(-a, b);
+    case OfNegated: return CheckedPow(-a, b);
   }
-  return CheckedPower(a, b);
+  return CheckedPow(a, b);
 }
 
 }  // namespace velmora::expr

@@ -34,11 +34,8 @@ std::span<const RationalRow> RationalRows();
 const RationalRow* FindRationalRow(double a, double b, bool p, bool q, bool r);
 
 // The value of a row's form, with the plain power checked like every power
-// (a fault for a negative base with a fractional exponent, for 0 to a
-// negative exponent and for overflow).
+// (expr::CheckedPow: a fault for a negative base with a fractional exponent,
+// for 0 to a negative exponent and for overflow).
 double ApplyRationalForm(RationalForm form, double a, double b);
-
-// The host primitive a^b, checked: a result that is not finite faults.
-double CheckedPower(double a, double b);
 
 }  // namespace velmora::expr

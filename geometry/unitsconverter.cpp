@@ -3,6 +3,7 @@
 #include <charconv>
 #include <string>
 
+#include "base/asciicase.h"
 #include "expr/fault.h"
 #include "expr/numtext.h"
 #include "geometry/real.h"
@@ -67,29 +68,20 @@ constexpr std::array<DegreesCheck, 3> kDegreesChecks = {{
     {"txtSec", "Invalid input for Seconds (Sec > 0)."},
 }};
 
-bool SameLetters(std::string_view a, std::string_view b) {
-  if (a.size() != b.size()) return false;
-  for (std::size_t i = 0; i < a.size(); ++i) {
-    const auto lower = [](char c) { return (c >= 'A' && c <= 'Z') ? static_cast<char>(c - 'A' + 'a') : c; };
-    if (lower(a[i]) != lower(b[i])) return false;
-  }
-  return true;
-}
-
 }  // namespace
 
 std::span<const ListPage> ListPages() { return kPages; }
 
 const ListPage* FindListPage(std::string_view word) {
   for (const auto& p : kPages) {
-    if (SameLetters(p.word, word)) return &p;
+    if (base::EqualsIgnoringCase(p.word, word)) return &p;
   }
   return nullptr;
 }
 
 std::size_t FindUnit(const ListPage& page, std::string_view keyOrPosition) {
   for (std::size_t i = 0; i < page.units.size(); ++i) {
-    if (SameLetters(page.units[i].key, keyOrPosition)) return i;
+    if (base::EqualsIgnoringCase(page.units[i].key, keyOrPosition)) return i;
   }
   std::size_t position = 0;
   const auto* end = keyOrPosition.data() + keyOrPosition.size();

@@ -122,6 +122,13 @@ int GridRoutines::GridToMatrix(const Grid& grid, ComplexMatrix& matrix) {
           return 1;
         }
         scratch.SetRectText(text);
+        if (scratch.ParseOverflowed()) {
+          // A number too large to hold would go in as whatever the scratch
+          // number was left with: the entry is refused instead.
+          messages_.Show(complex::kInvalidComplexNumber, "Invalid Entry in Matrix " + matrix.Name(),
+                         platform::MsgIcon::Exclamation);
+          return 1;
+        }
         matrix.SetItem(r, c, scratch);
       }
     }

@@ -198,6 +198,12 @@ bool MatrixCalculator::TraceStep(int tab) {
   }
   const Grid& grid = tab == kTabA ? grdGrid1 : grdGrid2;
   const TraceSum sum = TraceCells(grid);
+  if (!sum.held) {
+    messages_.Show(complex::kInvalidComplexNumber,
+                   std::string("Invalid Entry in Matrix ") + (tab == kTabA ? "Matrix A" : "Matrix B"),
+                   MsgIcon::Exclamation);
+    return false;
+  }
   messages_.Show(TraceMessage(tab == kTabA ? "[A]" : "[B]", sum), "Trace", MsgIcon::Information);
   return true;
 }

@@ -5,7 +5,6 @@
 #include <sstream>
 #include <system_error>
 
-#include "complex/strtext.h"
 #include "expr/fault.h"
 #include "expr/numtext.h"
 
@@ -56,7 +55,7 @@ double ReadNumber(std::istream& in) {
     c = in.peek();
   }
   if (c == ',') in.get();
-  if (!complex::IsNumericText(field)) throw Fault(Fault::kTypeMismatch);
+  if (!expr::IsNumericText(field)) throw Fault(Fault::kTypeMismatch);
   return expr::TextToNumber(field);
 }
 

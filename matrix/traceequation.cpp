@@ -48,6 +48,7 @@ TraceSum TraceCells(const Grid& grid) {
   TraceSum sum;
   for (int i = 0; i < grid.Rows(); ++i) {
     const ComplexNumber z = Cell(grid, i, i);
+    if (z.ParseOverflowed()) sum.held = false;
     sum.re += z.Real();
     sum.im += z.Imaginary();
   }

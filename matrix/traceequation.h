@@ -14,6 +14,10 @@ namespace velmora::matrix {
 struct TraceSum {
   double re = 0;
   double im = 0;
+  // False when a diagonal cell holds a number too large to hold (see
+  // ComplexNumber::ParseOverflowed): then the sums mean nothing, and the
+  // caller refuses the entry.
+  bool held = true;
 };
 
 // The sums of the real and imaginary parts of the diagonal cells (i, i) for

@@ -13,6 +13,7 @@ packages=(
   clang libclang-rt-14-dev clang-format
   xvfb xauth x11-utils
   fonts-liberation fonts-dejavu-core
+  python3-numpy
 )
 
 missing=()

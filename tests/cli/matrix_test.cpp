@@ -105,6 +105,42 @@ TEST_F(MatrixCommandTest, EmptyCellsNeedZeros) {
   EXPECT_EQ(r.out, " 1  2 \r\n2\r\n0\r\n");
 }
 
+TEST_F(MatrixCommandTest, NumbersTooLargeToHoldAreRefused) {
+  // A 201-digit entry used to be taken as a stale or zero value.
+  const std::string digits201 = "1" + std::string(200, '0');
+  const std::string cell = cli_.File("big.mcf", " 1  2 \r\n5\r\n" + digits201 + "\r\n").string();
+  auto r = cli_.Run({"matrix", "add", cell, cell});
+  EXPECT_EQ(r.status, 1);
+  EXPECT_EQ(r.out, "");
+  EXPECT_EQ(r.err, "You must enter a valid complex number.\n");
+  r = cli_.Run({"matrix", "trace", cli_.File("bigtrace.mcf", " 1  1 \r\n" + digits201 + "\r\n").string()});
+  EXPECT_EQ(r.status, 1);
+  EXPECT_EQ(r.out, "");
+  EXPECT_EQ(r.err, "You must enter a valid complex number.\n");
+  r = cli_.Run({"matrix", "smul", a_, "--scalar", digits201});
+  EXPECT_EQ(r.status, 1);
+  EXPECT_EQ(r.out, "");
+  EXPECT_EQ(r.err, "The Scalar Constant must be a valid complex number.\n");
+  r = cli_.Run({"matrix", "smul", a_, "--scalar", std::string(400, '9')});
+  EXPECT_EQ(r.status, 1);
+  EXPECT_EQ(r.err, "The Scalar Constant must be a valid complex number.\n");
+}
+
+TEST_F(MatrixCommandTest, PrintedResultsReadBackUnchanged) {
+  // Working values and results below 1E-04 or from 1E+15 up are written
+  // positional; in exponent form the letter read back as the imaginary unit.
+  const std::string tiny = cli_.File("tiny.mcf", " 1  1 \r\n100000\r\n").string();
+  auto r = cli_.Run({"matrix", "inverse", tiny, "--precision", "15"});
+  EXPECT_EQ(r.status, 0);
+  EXPECT_EQ(r.out, " 1  1 \r\n.00001\r\n");
+  EXPECT_EQ(r.err, "Det |A| = 100000\n");
+  const std::string pair = cli_.File("pair.mcf", " 2  2 \r\n200\r\n1\r\n1\r\n200\r\n").string();
+  r = cli_.Run({"matrix", "inverse", pair, "--precision", "6"});
+  EXPECT_EQ(r.status, 0);
+  EXPECT_EQ(r.out, " 2  2 \r\n.005\r\n-.000025\r\n-.000025\r\n.005\r\n");
+  EXPECT_EQ(r.err, "Det |A| = 39999\n");
+}
+
 TEST_F(MatrixCommandTest, ReportsByteForByte) {
   struct ReportCase {
     std::vector<std::string> words;

@@ -173,7 +173,10 @@ const FormatCase kFormatCases[] = {
     {1.0 / 3.0, 0, -1, ".333333333333333", ".333333333333333", "negative places mean 15"},
     {1.0 / 3.0, 0, 99, ".333333333333333", ".333333333333333", "too many places mean 15"},
     {2.5, -0.125, 2, "2.5 - j.12", "2.5 + j.12", "ties go to the even digit"},
-    {1.5e-5, 2e20, 15, "1.5E-05 + j2E+20", "1.5E-05 - j2E+20", "exponent forms"},
+    {1.5e-5, 2e20, 15, ".000015 + j200000000000000000000", ".000015 - j200000000000000000000",
+     "tiny and huge parts are positional: an exponent letter would read back as the unit"},
+    {-1e-5, -2.1952410910289e20, 15, "-.00001 - j219524109102890000000", "-.00001 + j219524109102890000000",
+     "the same with negative parts"},
 };
 
 TEST_P(ComplexNumberTest, FormatRectangular) {
@@ -516,6 +519,73 @@ TEST_P(ComplexNumberTest, CopyRectTextReparsesTheText) {
   EXPECT_EQ(second.RectText(), ".33-j2");
   EXPECT_EQ(second.Real(), 0.33);
   EXPECT_EQ(second.ConjImaginary(), 2);
+}
+
+TEST_P(ComplexNumberTest, PrintsReadBackAsTheSameNumber) {
+  // What the class prints for itself is read back unchanged, at any size.
+  const double parts[][2] = {{1e-5, 0}, {0, 3e-9}, {2.1952410910289e20, -1}, {-7.5e-11, 4.25e17}};
+  for (const auto& p : parts) {
+    ComplexNumber z = Parts(p[0], p[1]);
+    z.FormatRectangular(15);
+    ComplexNumber back;
+    back.CopyRectText(z);
+    EXPECT_EQ(back.Real(), p[0]) << z.RectText();
+    EXPECT_EQ(back.Imaginary(), p[1]) << z.RectText();
+    EXPECT_EQ(Rect(z.RectText()).Real(), p[0]) << z.RectText();
+    EXPECT_EQ(Rect(z.RectText()).Imaginary(), p[1]) << z.RectText();
+  }
+}
+
+TEST_P(ComplexNumberTest, TypedExponentLetterIsStillTheUnit) {
+  // Text a person types keeps the letter rule: "1e5" is 0 + j15.
+  const ComplexNumber z = Rect("1e5");
+  EXPECT_EQ(z.Real(), 0);
+  EXPECT_EQ(z.Imaginary(), 15);
+}
+
+TEST_P(ComplexNumberTest, PrintAtTheTopOfTheRangeNeverThrows) {
+  // The largest double rounds to 15 digits beyond the range: the print
+  // cannot be made, which is recorded as an overflow, and a copy of the
+  // number through its text neither throws nor reads a wrong value.
+  ComplexNumber z;
+  z.SetReal(std::numeric_limits<double>::max());
+  z.SetImaginary(1);
+  EXPECT_NO_THROW(z.FormatRectangular(15));
+  EXPECT_EQ(z.ErrNumber(), expr::Fault::kOverflow);
+  EXPECT_EQ(z.ErrDescription(), "Overflow");
+  EXPECT_EQ(z.RectText(), "");
+  ComplexNumber copy;
+  EXPECT_NO_THROW(copy.CopyRectText(z));
+  EXPECT_EQ(copy.Real(), 0);
+  EXPECT_EQ(copy.ErrNumber(), 0);
+  // Just below the cut the print is made and reads back as its 15 digits.
+  ComplexNumber high;
+  high.SetReal(1.79769313486231e308);
+  high.FormatRectangular(15);
+  EXPECT_EQ(high.ErrNumber(), 0);
+  ComplexNumber back;
+  EXPECT_NO_THROW(back.CopyRectText(high));
+  EXPECT_EQ(back.Real(), 1.79769313486231e308);
+}
+
+TEST_P(ComplexNumberTest, ParseOverflowedTellsANumberTooLargeToHold) {
+  struct Row {
+    std::string text;
+    bool overflowed;
+    const char* why;
+  };
+  const Row rows[] = {
+      {"3+j4", false, "an ordinary number"},
+      {"1" + std::string(200, '0'), true, "its square for the modulus overflows"},
+      {std::string(400, '9'), true, "beyond the range of a double"},
+      {"ab", false, "a malformed text is another failure"},
+      {"1" + std::string(150, '0'), false, "its square still fits"},
+  };
+  ComplexNumber z;
+  for (const auto& r : rows) {
+    z.SetRectText(r.text);
+    EXPECT_EQ(z.ParseOverflowed(), r.overflowed) << r.why;
+  }
 }
 
 TEST_P(ComplexNumberTest, CopyOfAnEmptyTextChangesNothing) {

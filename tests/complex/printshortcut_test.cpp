@@ -5,10 +5,13 @@
 #include <bit>
 #include <cmath>
 #include <cstdint>
+#include <limits>
 #include <random>
+#include <string>
 
 #include "complex/complexnumber.h"
 #include "complex/printedtext.h"
+#include "expr/fault.h"
 #include "expr/numtext.h"
 
 namespace velmora::complex {
@@ -90,26 +93,6 @@ TEST(RoundPlaces, RandomValuesMatchRoundToBitForBit) {
   EXPECT_EQ(mismatches, 0);
 }
 
-struct PlainCase {
-  double value;
-  bool plain;
-  const char* why;
-};
-
-const PlainCase kPlainCases[] = {
-    {0, true, "zero prints as 0"},
-    {1e-4, true, "0.0001 is plain"},
-    {9.9e-5, false, "9.9E-05"},
-    {123456789012345, true, "15 digits"},
-    {1e15, false, "1E+15"},
-    {-0.5, true, "negative plain"},
-    {-2e-5, false, "negative exponent form"},
-};
-
-TEST(PrintsPlain, Cases) {
-  for (const auto& c : kPlainCases) EXPECT_EQ(PrintsPlain(c.value), c.plain) << c.why;
-}
-
 // What a new number reads from a text, all through the characters.
 void ParseByText(const std::string& text, double& re, double& im) {
   ShortcutGuard guard;
@@ -123,7 +106,8 @@ void ParseByText(const std::string& text, double& re, double& im) {
 TEST(PrintedText, PlainValuesAreWhatTheTextReads) {
   std::mt19937_64 gen(7);
   std::uniform_real_distribution<double> mantissa(-10.0, 10.0);
-  std::uniform_int_distribution<int> exponent(-6, 3);
+  // Down to 1E-12 and up to 1E+22: tiny and huge parts print positional too.
+  std::uniform_int_distribution<int> exponent(-12, 22);
   std::uniform_int_distribution<int> places(1, 15);
   int checked = 0;
   for (int i = 0; i < 20000; ++i) {
@@ -141,15 +125,45 @@ TEST(PrintedText, PlainValuesAreWhatTheTextReads) {
     ASSERT_EQ(Bits(fastIm), Bits(textIm)) << t.Text();
     ++checked;
   }
-  EXPECT_GT(checked, 10000);
+  EXPECT_EQ(checked, 20000) << "every finite print is read by the shortcut";
 }
 
-TEST(PrintedText, ExponentFormIsNotShortcut) {
-  const PrintedText t = PrintedText::Print(1.5e-5, 1, 15, false);
+TEST(PrintedText, TinyAndHugePartsPrintPositional) {
+  // An exponent letter in a print would read back as the imaginary unit.
+  struct Row {
+    double re;
+    double im;
+    int places;
+    const char* text;
+  };
+  const Row rows[] = {
+      {1.5e-5, 1, 15, ".000015 + j1"},
+      {1e-5, 0, 15, ".00001"},
+      {2.1952410910289e20, -3e-12, 15, "219524109102890000000 - j.000000000003"},
+      {1.23456789e-10, 0, 15, ".000000000123457"},
+      {1e15, 1e-4, 3, "1000000000000000"},
+  };
+  for (const auto& r : rows) {
+    const PrintedText t = PrintedText::Print(r.re, r.im, r.places, false);
+    EXPECT_EQ(t.Text(), r.text);
+    double re = 0;
+    double im = 0;
+    ASSERT_TRUE(t.PlainValues(re, im)) << r.text;
+    double textRe = 0;
+    double textIm = 0;
+    ParseByText(t.Text(), textRe, textIm);
+    EXPECT_EQ(Bits(re), Bits(textRe)) << r.text;
+    EXPECT_EQ(Bits(im), Bits(textIm)) << r.text;
+  }
+}
+
+TEST(PrintedText, RoundingOverflowLeavesTheTextAndNeverThrows) {
+  PrintedText t(std::string("7"));
+  EXPECT_EQ(t.SetPrint(std::numeric_limits<double>::max(), 0, 15, false), expr::Fault::kOverflow);
+  EXPECT_EQ(t.Text(), "7");
   double re = 0;
   double im = 0;
-  EXPECT_FALSE(t.PlainValues(re, im));
-  EXPECT_EQ(t.Text(), "1.5E-05 + j1");
+  EXPECT_FALSE(t.PlainValues(re, im)) << "typed text is no print";
 }
 
 TEST(PrintedText, TextIsTheEagerPrint) {

@@ -32,29 +32,5 @@ TEST(StrText, Cases) {
   }
 }
 
-struct NumericCase {
-  const char* text;
-  bool numeric;
-  const char* why;
-};
-
-const NumericCase kNumericCases[] = {
-    {"5", true, "digits"},
-    {" -1.5 ", true, "sign, point, blanks around"},
-    {".5", true, "no digit before the point"},
-    {"1e5", true, "exponent"},
-    {"1E-05", true, "signed exponent"},
-    {"1/2", false, "a second separator"},
-    {"", false, "empty"},
-    {".", false, "a point alone"},
-    {"1e", false, "exponent without digits"},
-    {"45deg", false, "a unit left on it"},
-    {"1.2.3", false, "two points"},
-};
-
-TEST(IsNumericText, Cases) {
-  for (const auto& c : kNumericCases) EXPECT_EQ(IsNumericText(c.text), c.numeric) << c.why;
-}
-
 }  // namespace
 }  // namespace velmora::complex

@@ -7,6 +7,7 @@
 #include <vector>
 
 #include "expr/fault.h"
+#include "expr/functionlibrary.h"
 #include "tests/expr/fakegraphwindow.h"
 #include "tests/support/recordingmessagebox.h"
 
@@ -165,6 +166,47 @@ INSTANTIATE_TEST_SUITE_P(
         EvalCase{"2/SIN", 2, 2, "a failed factor is not divided by, so no fault replaces its code"},
         EvalCase{"10^400", 16, 0, "overflowing power"},
         EvalCase{"FAC(170)*FAC(170)", 16, 0, "overflowing product"}));
+
+// A failure inside a function's argument keeps its own code: the function
+// is not applied to the 0 the failed argument leaves, which for these names
+// would fault and hide the wrong text behind a run-time 16.
+INSTANTIATE_TEST_SUITE_P(
+    ArgumentFailureStands, GrammarTest,
+    ::testing::Values(EvalCase{"LN(2(1))", 2, 0, "implied product in the argument of LN"},
+                      EvalCase{"LN(1E5)", 4, 0, "exponent number in the argument of LN"},
+                      EvalCase{"LN(1.2.3)", 1, 0, "second separator in the argument of LN"},
+                      EvalCase{"LOG(5(1))", 2, 0, "LOG faults at 0 as well"},
+                      EvalCase{"COT(3(1))", 2, 0, "COT divides by tan(0)"},
+                      EvalCase{"CSC(2(1))", 2, 0, "CSC divides by sin(0)"},
+                      EvalCase{"GAMMA(2(1))", 2, 0, "GAMMA faults at 0"},
+                      EvalCase{"HCSC(1E5)", 4, 0, "HCSC faults at 0"},
+                      EvalCase{"HCOT(1,2,3)", 1, 0, "HCOT faults at 0"},
+                      EvalCase{"LN((1)", 8, 0, "an unclosed bracket inside the argument"},
+                      EvalCase{"2+LN(2(1))", 2, 2, "the earlier term stands, the code is the argument's"},
+                      EvalCase{"LN(2(1))*(1/0)", 2, 0, "nothing after the failed factor runs"},
+                      EvalCase{"LN(LN(2(1)))", 2, 0, "nested calls keep the innermost code"},
+                      EvalCase{"LN(0)", 16, 0, "a clean argument at a fault of the function is still 16"},
+                      EvalCase{"FOO(2(1))", 2, 0, "an unknown name over a failed argument is 2 either way"}));
+
+// Every name of the language, fed the three kinds of broken argument: the
+// argument's code must come out whatever the function does at 0.
+TEST(EvaluatorTest, EveryFunctionKeepsItsArgumentsCode) {
+  struct Broken {
+    const char* argument;
+    int error;
+  };
+  const Broken broken[] = {
+      {"2(1)", Evaluator::kSyntax}, {"1E5", Evaluator::kSymbols}, {"1,2,3", Evaluator::kDecimalSeparator}};
+  for (const FunctionName& f : EvaluatorFunctionNames()) {
+    for (const Broken& b : broken) {
+      FakeGraphWindow window;
+      Evaluator ev(nullptr, &window);
+      const std::string text = std::string(f.name) + "(" + b.argument + ")";
+      ev.Evaluate(text, true);
+      EXPECT_EQ(ev.Error(), b.error) << text;
+    }
+  }
+}
 
 TEST(EvaluatorTest, ResultEvaluatesAgainOnEveryRead) {
   Evaluator ev;

@@ -165,6 +165,68 @@ TEST(ToLong, RangeAndTies) {
   EXPECT_THROW(ToLong(-2147483649.0), Fault);
 }
 
+struct PositionalCase {
+  double value;
+  const char* text;
+  const char* why;
+};
+
+TEST(NumberToPositionalText, SameDigitsWithoutExponent) {
+  const PositionalCase cases[] = {
+      {1e-5, "0.00001", "tiny: the exponent becomes leading zeros"},
+      {-1.25e-7, "-0.000000125", "the sign stays in front"},
+      {2.1952410910289e20, "219524109102890000000", "large: the exponent becomes trailing zeros"},
+      {1.5e15, "1500000000000000", "the first exponent form NumberToText uses"},
+      {1.23456789012345e-10, "0.000000000123456789012345", "all 15 digits kept"},
+      {0.5, "0.5", "plain values as NumberToText writes them"},
+      {100, "100", "integers without a point"},
+      {0, "0", "zero"},
+      {std::numeric_limits<double>::infinity(), "1.#INF", "non-finite spellings as they are"},
+  };
+  for (const auto& c : cases) EXPECT_EQ(NumberToPositionalText(c.value), c.text) << c.why;
+}
+
+TEST(NumberToPositionalText, ReadsBackAsTheSameNumber) {
+  // The 15-digit value of every print reads back exactly, whatever its size.
+  const double values[] = {1e-5,
+                           3.3333333333333e-9,
+                           7.25741561530799e306,
+                           1.79769313486231e308,
+                           4.94065645841247e-308,
+                           123456789012345,
+                           0.1};
+  for (const double v : values) {
+    EXPECT_EQ(TextToNumber(NumberToPositionalText(v)), TextToNumber(NumberToText(v))) << v;
+    EXPECT_EQ(NumberToPositionalText(v).find_first_of("Ee"), std::string::npos) << v;
+  }
+}
+
+struct NumericCase {
+  const char* text;
+  bool numeric;
+  const char* why;
+};
+
+TEST(IsNumericText, Cases) {
+  const NumericCase cases[] = {
+      {"5", true, "digits"},
+      {" -1.5 ", true, "sign, point, blanks around"},
+      {"\t12\t", true, "tabs count as blanks"},
+      {".5", true, "no digit before the point"},
+      {"1e5", true, "exponent"},
+      {"1E-05", true, "signed exponent"},
+      {"1/2", false, "a second separator"},
+      {"", false, "empty"},
+      {".", false, "a point alone"},
+      {"+", false, "a sign alone"},
+      {"1e", false, "exponent without digits"},
+      {"12abc", false, "text left on it"},
+      {"45deg", false, "a unit left on it"},
+      {"1.2.3", false, "two points"},
+  };
+  for (const auto& c : cases) EXPECT_EQ(IsNumericText(c.text), c.numeric) << c.why;
+}
+
 TEST(PrcniFunc, FiveSpellings) {
   for (const char* text : {"1.#INF", "-1.#INF", "1.#IND", "-1.#IND", "1.#QNAN"}) {
     EXPECT_TRUE(PrcniFunc(std::string_view(text))) << text;

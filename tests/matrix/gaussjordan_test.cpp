@@ -1,8 +1,10 @@
 #include <gtest/gtest.h>
 
+#include <algorithm>
 #include <cmath>
 #include <random>
 #include <string>
+#include <vector>
 
 #include "expr/fault.h"
 #include "expr/numtext.h"
@@ -63,13 +65,24 @@ const InverseCase kInverseCases[] = {
      {{".5", "0", "0"}, {"0", ".25", "0"}, {"0", "0", ".125"}},
      "64",
      "a diagonal matrix"},
-    // 1.5E-05 is printed in exponent form and read back with E as the unit
-    // and 5 as its digits: 1 + j5.
+    // Working values below 1E-04 and from 1E+15 up are printed positional:
+    // in exponent form their letter would read back as the imaginary unit.
     {{{"1", ".000015"}, {"0", "1"}},
-     3,
-     {{"1", "-1-j5"}, {"0", "1"}},
+     6,
+     {{"1", "-.000015"}, {"0", "1"}},
      "1",
-     "a working value in exponent form"},
+     "a tiny working value reads back as itself"},
+    {{{"100000"}}, 15, {{".00001"}}, "100000", "the inverse of 1E+05 is 1E-05, not 0 + j1"},
+    {{{"200", "1"}, {"1", "200"}},
+     6,
+     {{".005", "-.000025"}, {"-.000025", ".005"}},
+     "39999",
+     "the off-diagonal entries of the inverse lie below 1E-04"},
+    {{{".0000000000000001"}},
+     15,
+     {{"10000000000000000"}},
+     "0",
+     "an inverse above 1E+15 prints all its digits"},
 };
 
 TEST(GaussJordan, Inverses) {
@@ -112,17 +125,52 @@ TEST(GaussJordan, SingularMatrices) {
 
 TEST(GaussJordan, NoiseAboveTheCutIsNotSingular) {
   // The last pivot of this singular matrix is rounding noise of about 9E-16:
-  // it survives the 15-place cut as 1E-15, whose text in exponent form reads
-  // back as a complex number. The run goes through, the determinant prints
-  // as 0, and the inverse comes out complex.
+  // it survives the 15-place cut as .000000000000001. The run goes through,
+  // the determinant is the noise times the other pivots, and the inverse
+  // comes out real and huge.
   const Outcome o = Eliminate({{"1", "2", "3"}, {"4", "5", "6"}, {"7", "8", "9"}}, {}, 15);
   EXPECT_FALSE(o.singular);
   EXPECT_TRUE(o.boxes.empty());
-  EXPECT_EQ(o.determinant, "0");
-  bool complexEntry = false;
-  for (const auto& row : o.inverse)
-    for (const auto& cell : row) complexEntry = complexEntry || cell.find('j') != std::string::npos;
-  EXPECT_TRUE(complexEntry);
+  EXPECT_EQ(o.determinant, "-.000000000000012");
+  double largest = 0;
+  for (const auto& row : o.inverse) {
+    for (const auto& cell : row) {
+      EXPECT_EQ(cell.find_first_of("jEe"), std::string::npos) << cell;
+      largest = std::max(largest, std::fabs(expr::TextToNumber(cell)));
+    }
+  }
+  EXPECT_GT(largest, 1e14);
+}
+
+TEST(GaussJordan, DeterminantOfALargeRealMatrixIsReal) {
+  // 20 on the diagonal and small integers elsewhere: the running determinant
+  // passes 1E+15, where its print used to take exponent form and read back
+  // with the E as the imaginary unit.
+  constexpr int n = 12;
+  Rows rows(n);
+  std::vector<double> a(n * n);
+  for (int i = 0; i < n; ++i) {
+    for (int j = 0; j < n; ++j) {
+      const int v = i == j ? 20 : (i * 7 + j * 3) % 5;
+      a[static_cast<std::size_t>(i * n + j)] = v;
+      rows[static_cast<std::size_t>(i)].push_back(std::to_string(v));
+    }
+  }
+  // The same determinant by plain elimination in doubles, for comparison.
+  double want = 1;
+  for (int k = 0; k < n; ++k) {
+    const double pivot = a[static_cast<std::size_t>(k * n + k)];
+    want *= pivot;
+    for (int i = k + 1; i < n; ++i) {
+      const double f = a[static_cast<std::size_t>(i * n + k)] / pivot;
+      for (int j = k; j < n; ++j)
+        a[static_cast<std::size_t>(i * n + j)] -= f * a[static_cast<std::size_t>(k * n + j)];
+    }
+  }
+  const Outcome o = Eliminate(rows, {}, 15);
+  EXPECT_FALSE(o.singular);
+  EXPECT_EQ(o.determinant.find_first_of("jEe"), std::string::npos) << o.determinant;
+  EXPECT_NEAR(expr::TextToNumber(o.determinant), want, 1e-12 * want) << o.determinant;
 }
 
 TEST(GaussJordan, SolvesASystem) {
@@ -161,8 +209,7 @@ TEST(GaussJordan, WrongSizeOfTheTargetIsTheCallersFault) {
 }
 
 // A dense random real matrix I + u v' (u, v in [1, 2], entries cut to three
-// decimals). Its elimination and its inverse stay clear of the values below
-// 1E-04 that print in exponent form, so the 15-place cut is the only error.
+// decimals), well conditioned, so the 15-place cut is the only error.
 Rows RandomRealMatrix(int n, unsigned seed, std::vector<double>& values) {
   std::mt19937_64 gen(seed);
   std::uniform_real_distribution<double> d(1.0, 2.0);
@@ -249,7 +296,8 @@ TEST(GaussJordan, ShortcutsPrintTheSameDigitsAsTheTextRoad) {
       {RandomComplexMatrix(8, 11), "dense complex 8 x 8"},
       {RandomComplexMatrix(30, 12), "dense complex 30 x 30"},
       {RandomRealMatrix(30, 13, unused), "real 30 x 30"},
-      {{{"1", ".000015"}, {"0", "1"}}, "exponent form"},
+      {{{"1", ".000015"}, {"0", "1"}}, "a tiny working value"},
+      {{{"200", "1"}, {"1", "200"}}, "tiny entries of the inverse"},
       {{{"1", "2"}, {"2", "4"}}, "singular"},
   };
   for (const auto& c : cases) {

@@ -2,6 +2,8 @@
 
 #include <gtest/gtest.h>
 
+#include <string>
+
 #include "expr/fault.h"
 #include "matrix/gridtyping.h"
 #include "tests/matrix/matrixbuild.h"
@@ -155,6 +157,43 @@ TEST(GridToMatrix, AnEmptyCellStopsWithItsMessage) {
   EXPECT_EQ(box.Boxes()[0].icon, platform::MsgIcon::Exclamation);
   EXPECT_EQ(m.Item(0, 1).RectText(), "2");  // the cells before it went in
   EXPECT_EQ(m.Item(1, 1).RectText(), "");
+}
+
+TEST(GridToMatrix, ANumberTooLargeToHoldIsRefused) {
+  // Such a cell used to go in as whatever the shared scratch number held
+  // (the cell before it, or 0) or with a stale modulus: it is refused with
+  // the entry's own message instead.
+  struct Row {
+    std::string cell;
+    const char* why;
+  };
+  const Row rows[] = {
+      {"1" + std::string(200, '0'), "201 digits: its square for the modulus overflows"},
+      {std::string(400, '9'), "400 digits: beyond the range of a double"},
+      {"3+j" + std::string(400, '9'), "an imaginary part beyond the range"},
+      {"-" + std::string(310, '1') + ".5", "a negative real part beyond the range"},
+  };
+  for (const auto& r : rows) {
+    RecordingMessageBox box;
+    GridRoutines routines(box);
+    ComplexMatrix m = Sized("Matrix A", 1, 3);
+    EXPECT_EQ(routines.GridToMatrix(MakeGrid({{"7", r.cell, "2"}}), m), 1) << r.why;
+    ASSERT_EQ(box.Boxes().size(), 1U) << r.why;
+    EXPECT_EQ(box.Boxes()[0].text, "You must enter a valid complex number.") << r.why;
+    EXPECT_EQ(box.Boxes()[0].title, "Invalid Entry in Matrix Matrix A") << r.why;
+    EXPECT_EQ(box.Boxes()[0].icon, platform::MsgIcon::Exclamation) << r.why;
+    EXPECT_EQ(m.Item(0, 1).RectText(), "") << r.why << ": nothing of it went in";
+  }
+}
+
+TEST(GridToMatrix, TheLargestNumbersThatFitGoIn) {
+  // A square of 1E+150 still fits a double, so its modulus can be taken.
+  RecordingMessageBox box;
+  GridRoutines routines(box);
+  ComplexMatrix m = Sized("Matrix A", 1, 1);
+  EXPECT_EQ(routines.GridToMatrix(MakeGrid({{"1" + std::string(150, '0')}}), m), 0);
+  EXPECT_TRUE(box.Boxes().empty());
+  EXPECT_EQ(m.Item(0, 0).Real(), 1e150);
 }
 
 TEST(GridToMatrix, WithZerosAddedTheRunGoesThrough) {

@@ -166,9 +166,31 @@ TEST_F(MatrixCalculatorTest, SizeAndScalarChecks) {
 }
 
 TEST_F(MatrixCalculatorTest, OverflowInAnOperationIsShown) {
+  // 1E+150 fits, and so does its square; the product's square (for the
+  // modulus) does not.
+  const std::string large = "1" + std::string(150, '0');
+  EXPECT_FALSE(Calculate(kMultiply, {{large}}, {{large}}));
+  ExpectOneBox("Overflow", "Error", platform::MsgIcon::Critical);
+}
+
+TEST_F(MatrixCalculatorTest, AnEntryTooLargeToHoldIsRefused) {
+  // 201 digits: the entry cannot be held (its square overflows), and it is
+  // refused before any operation instead of going in with a stale modulus.
   const std::string huge = "1" + std::string(200, '0');
   EXPECT_FALSE(Calculate(kAdd, {{huge}}, {{"1"}}));
-  ExpectOneBox("Overflow", "Error", platform::MsgIcon::Critical);
+  ExpectOneBox("You must enter a valid complex number.", "Invalid Entry in Matrix Matrix A",
+               platform::MsgIcon::Exclamation);
+  box_.Clear();
+  EXPECT_FALSE(Calculate(kAdd, {{"1"}}, {{std::string(400, '9')}}));
+  ExpectOneBox("You must enter a valid complex number.", "Invalid Entry in Matrix Matrix B",
+               platform::MsgIcon::Exclamation);
+}
+
+TEST_F(MatrixCalculatorTest, TraceRefusesACellTooLargeToHold) {
+  calc_.grdGrid2 = MakeGrid({{"1", "0"}, {"0", std::string(400, '9')}});
+  EXPECT_FALSE(calc_.Trace(MatrixCalculator::kTabB));
+  ExpectOneBox("You must enter a valid complex number.", "Invalid Entry in Matrix Matrix B",
+               platform::MsgIcon::Exclamation);
 }
 
 TEST_F(MatrixCalculatorTest, Adjoint) {

@@ -2,6 +2,8 @@
 
 #include <gtest/gtest.h>
 
+#include <string>
+
 #include "expr/fault.h"
 #include "tests/matrix/matrixbuild.h"
 
@@ -39,6 +41,15 @@ TEST(Trace, ReadsTheCellTextsNotAPrecision) {
   const TraceSum t = TraceCells(MakeGrid({{".333333333333333", ""}, {"", "1e5"}}));
   EXPECT_EQ(t.re, 0.333333333333333);
   EXPECT_EQ(t.im, 15);  // the exponent letter is the unit
+}
+
+TEST(Trace, ACellTooLargeToHoldIsMarked) {
+  // Its number would read as 0 (beyond a double) or as a value whose modulus
+  // failed: the sum says so, and the caller refuses the entry.
+  EXPECT_TRUE(TraceCells(MakeGrid({{"1", "2"}, {"3", "4"}})).held);
+  EXPECT_FALSE(TraceCells(MakeGrid({{std::string(400, '9'), "2"}, {"3", "4"}})).held);
+  EXPECT_FALSE(TraceCells(MakeGrid({{"1", "2"}, {"3", "1" + std::string(200, '0')}})).held);
+  EXPECT_TRUE(TraceCells(MakeGrid({{"1", std::string(400, '9')}, {"3", "4"}})).held) << "off the diagonal";
 }
 
 TEST(Trace, FewerColumnsThanRowsFaults) { EXPECT_THROW(TraceCells(MakeGrid({{"1"}, {"2"}})), expr::Fault); }
