@@ -8,6 +8,7 @@
 
 #include "expr/fault.h"
 #include "tests/expr/fakegraphwindow.h"
+#include "tests/support/evaluatorstate.h"
 #include "tests/support/recordingmessagebox.h"
 
 namespace velmora::expr {
@@ -492,13 +493,43 @@ TEST(Evaluate3Test, Messages) {
 TEST(Evaluate3Test, SilentShowsNothingAndLeavesTheFlag) {
   RecordingMessageBox box;
   Evaluator ev(&box, nullptr);
-  Evaluator::FailureFlag() = false;
   EXPECT_EQ(ev.Evaluate3("LN(0)", true), 0);
   EXPECT_EQ(ev.Error(), 16);
   ev.Evaluate3("SIN", true);
   EXPECT_EQ(ev.Error(), 2);
   EXPECT_TRUE(box.Boxes().empty());
   EXPECT_FALSE(Evaluator::FailureFlag());
+}
+
+TEST(EvaluatorModuleStateTest, ResetClearsTheArgumentAndTheFlag) {
+  Evaluator::SetCurrentArgument("7");
+  Evaluator::FailureFlag() = true;
+  Evaluator::ResetModuleState();
+  EXPECT_FALSE(Evaluator::FailureFlag());
+  RecordingMessageBox box;
+  Evaluator ev(&box, nullptr);
+  ev.Evaluate3("LN(0)", false);
+  ASSERT_EQ(box.Boxes().size(), 1u);
+  EXPECT_NE(box.Boxes()[0].text.find("(X = )"), std::string::npos) << box.Boxes()[0].text;
+}
+
+// These two run in this order: the first leaves the state as a failed draw
+// leaves it, and the second must not see it (tests/support/evaluatorstate.h).
+TEST(EvaluatorModuleStateTest, AReportedFailureRaisesTheFlag) {
+  Evaluator::SetCurrentArgument("-2,5");
+  RecordingMessageBox box;
+  Evaluator ev(&box, nullptr);
+  ev.Evaluate3("LN(0)", false);
+  EXPECT_TRUE(Evaluator::FailureFlag());
+}
+
+TEST(EvaluatorModuleStateTest, EveryTestStartsWithTheFlagDownAndNoArgument) {
+  EXPECT_FALSE(Evaluator::FailureFlag());
+  RecordingMessageBox box;
+  Evaluator ev(&box, nullptr);
+  ev.Evaluate3("LN(0)", false);
+  ASSERT_EQ(box.Boxes().size(), 1u);
+  EXPECT_NE(box.Boxes()[0].text.find("(X = )"), std::string::npos) << box.Boxes()[0].text;
 }
 
 TEST(Evaluate3Test, ReturnsTheStoredResult) {
