@@ -21,13 +21,13 @@ class GraphChild {
   // A Color menu entry, 0 background, 1 grid, 2 axes, 3 graph, 4 default:
   // the colour chosen, stored with Sacboje and the functions drawn again.
   virtual void ColourMenu(int index) = 0;
-  virtual void mnuPlotWidth() = 0;
+  virtual void mnuPlotWidth() = 0;  // asks the line width of the next plots
   virtual void ClearAll() = 0;
   virtual void ClearScreen() = 0;
-  virtual void mnuclhistory() = 0;
+  virtual void mnuclhistory() = 0;  // asks, then empties GraphLog.txt and the shown history
   virtual void ClearGrid() = 0;
   virtual void RedrawGrid() = 0;
-  virtual void ClearFju() = 0;
+  virtual void ClearFju() = 0;  // asks, then empties the function box ("Fju": function)
   virtual void OpenPlottingOptions() = 0;
   // The window shows what its logic now holds.
   virtual void SyncFromLogic() = 0;

@@ -91,21 +91,29 @@ void PressEnter(QWidget* target) {
   QCoreApplication::sendEvent(target, &press);
 }
 
-void BM_EnterToCurve(benchmark::State& state, Function f) {
-  Services& s = Shared();
+// A shown graph window of 800 x 600 on the shared services, in the type of
+// the function.
+std::unique_ptr<graph_qt::FrmFunc> ShownWindow(Services& s, const Function& f) {
   graph_qt::FrmFuncServices services;
   services.settings = &s.settings;
   services.messages = &s.messages;
   services.input = &s.input;
   services.history = &s.history;
   services.recent = &s.recent;
-  graph_qt::FrmFunc window(services);
-  window.pDraw()->setFixedSize(800, 600);
-  window.show();
+  auto window = std::make_unique<graph_qt::FrmFunc>(services);
+  window->pDraw()->setFixedSize(800, 600);
+  window->show();
   QApplication::processEvents();
-  window.SettleSize();
-  window.Logic().optFunk(f.type);
-  window.SyncFromLogic();
+  window->SettleSize();
+  window->Logic().optFunk(f.type);
+  window->SyncFromLogic();
+  return window;
+}
+
+void BM_EnterToCurve(benchmark::State& state, Function f) {
+  Services& s = Shared();
+  auto shown = ShownWindow(s, f);
+  graph_qt::FrmFunc& window = *shown;
   QComboBox* box = f.type == graph::kParametric ? window.txtX() : window.txtY();
   for (auto _ : state) {
     state.PauseTiming();
@@ -150,19 +158,8 @@ void Survey(const std::vector<Function>& functions) {
   std::vector<std::pair<double, std::string>> times;
   for (const Function& f : functions) {
     Services& s = Shared();
-    graph_qt::FrmFuncServices services;
-    services.settings = &s.settings;
-    services.messages = &s.messages;
-    services.input = &s.input;
-    services.history = &s.history;
-    services.recent = &s.recent;
-    graph_qt::FrmFunc window(services);
-    window.pDraw()->setFixedSize(800, 600);
-    window.show();
-    QApplication::processEvents();
-    window.SettleSize();
-    window.Logic().optFunk(f.type);
-    window.SyncFromLogic();
+    auto shown = ShownWindow(s, f);
+    graph_qt::FrmFunc& window = *shown;
     window.txtY()->lineEdit()->setText(QString::fromStdString(f.y));
     window.txtX()->lineEdit()->setText(QString::fromStdString(f.x));
     s.history.Clear();

@@ -16,11 +16,13 @@
 #include "matrix/complexmatrix.h"
 #include "matrix/matrixcontext.h"
 #include "platform/messagebox.h"
+#include "tests/matrix/matrixbuild.h"
 
 namespace {
 
 using velmora::complex::ComplexNumber;
 using velmora::matrix::ComplexMatrix;
+using velmora::matrix::testing::Sized;
 
 constexpr int kN = 50;
 
@@ -50,15 +52,6 @@ std::vector<ComplexNumber> Entries() {
     }
   }
   return entries;
-}
-
-ComplexMatrix Sized(const char* name, int rows, int cols) {
-  ComplexMatrix m;
-  m.SetName(name);
-  m.SetNumRows(static_cast<std::int16_t>(rows));
-  m.SetNumCollumns(static_cast<std::int16_t>(cols));
-  m.Init();
-  return m;
 }
 
 ComplexMatrix OperandA() {

@@ -181,6 +181,8 @@ void Evaluator::SetCurrentArgument(std::string argument) { Module().argument = s
 
 bool& Evaluator::FailureFlag() { return Module().failed; }
 
+void Evaluator::ResetModuleState() { Module() = ModuleState{}; }
+
 std::string_view Evaluator::ErrorMessage(int code) {
   for (const auto& entry : kErrorTexts) {
     if (entry.code == code) return entry.text;

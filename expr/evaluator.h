@@ -91,6 +91,9 @@ class Evaluator {
   // sets after every failure it reports; the drawing loops read the flag.
   static void SetCurrentArgument(std::string argument);
   static bool& FailureFlag();
+  // Both back to their state at program start (no argument, flag down):
+  // the test suites call it between tests.
+  static void ResetModuleState();
 
   // The messages of the error codes, and the lines of Evaluate3's failure
   // box, as shown to the user.

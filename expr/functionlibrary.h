@@ -17,11 +17,11 @@ enum class Fn : std::uint8_t {
   Fourth,
   Fifth,
   Sqrt,
-  Nil,
-  Cbr,
-  Cbr2,
-  Qvr,
-  Pbr,
+  Nil,   // NIL: x^(2/3), of |x| for a negative x
+  Cbr,   // CBR: the real cube root
+  Cbr2,  // CBR2: one over the real cube root
+  Qvr,   // QVR: the fourth root ("quartic root")
+  Pbr,   // PBR: the real fifth root ("pentic root")
   // Trigonometric and plain functions.
   Sin,
   Cos,
@@ -58,9 +58,9 @@ enum class Fn : std::uint8_t {
   HAcsc,
   HAcot,
   // Series and curves, gamma and factorial.
-  Stef,
-  Four,
-  Blanc,
+  Stef,   // STEF: 10 sin x cos x, the curve of the example of that name
+  Four,   // FOUR: a Fourier series of a square wave
+  Blanc,  // BLANC: the Blancmange (Takagi) curve
   Gamma,
   Beta,
   Fac,

@@ -29,10 +29,12 @@ std::string CleanUp(std::string_view typed);
 // "X" to "K".
 std::string EvaluationForm(std::string_view cleaned);
 
-// The constant expression (K = 1) that the evaluator tries before a draw.
+// The constant expression (K = 1) that the evaluator tries before a draw
+// ("ProveriSyn": check the syntax).
 std::string ProveriSyn(std::string_view cleaned);
 
-// The history form: the clean-up, then lower case with the variable "(x)".
+// The history form: the clean-up, then lower case with the variable "(x)"
+// ("Zagrade": brackets).
 std::string Zagrade(std::string_view text);
 
 // The 108 pairs that turn a control's text into lower-case calls on (x), the
@@ -43,7 +45,8 @@ std::string NormalizeShortForms(std::string_view text);
 // "qrt" to "qr", "k" to "K", "(1)" to nothing.
 std::string TangentForm(std::string_view normalized);
 
-// Powers of K written as the program's short names, one pair at a time.
+// Powers of K written as the program's short names, one pair at a time
+// ("ZameniSve": replace all).
 std::string ZameniSve(std::string_view text);
 
 // The tool windows' text form: " " removed, brackets to "(" and ")", then on

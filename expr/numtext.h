@@ -56,7 +56,8 @@ double RoundTo(double x, int n);
 std::int16_t ToShort(double x);
 std::int32_t ToLong(double x);
 
-// True when the text is one of the five non-finite spellings.
+// True when the text is one of the five non-finite spellings ("PrcniFunc":
+// the function burst, that is, gave no number).
 bool PrcniFunc(std::string_view text);
 // True when the value's text form is one of them, that is, when it is not finite.
 bool PrcniFunc(double value);

@@ -22,14 +22,16 @@ std::span<const std::string_view> ConeHelp();
 std::span<const std::string_view> ConeFrustrumHelp();
 std::span<const std::string_view> CylinderHelp();
 
-// The cone's routines, by menu entry mnuK1 to mnuK7.
-void KupaRH(Figure& f, platform::MessageBox& box);
-void KupaAH(Figure& f, platform::MessageBox& box);
-void KupaAR(Figure& f, platform::MessageBox& box);
-void KupaBH(Figure& f, platform::MessageBox& box);
-void KupaHFi(Figure& f, platform::MessageBox& box);
-void KupaAFi(Figure& f, platform::MessageBox& box);
-void KupaRfi(Figure& f, platform::MessageBox& box);
+// The cone's routines, by menu entry mnuK1 to mnuK7 ("Kupa" is the cone;
+// the letters name the two given values: R radius, H height, A the slant
+// side a, B the base area, Fi the angle ø).
+void KupaRH(Figure& f, platform::MessageBox& box);   // cone from radius and height
+void KupaAH(Figure& f, platform::MessageBox& box);   // cone from slant side and height
+void KupaAR(Figure& f, platform::MessageBox& box);   // cone from slant side and radius
+void KupaBH(Figure& f, platform::MessageBox& box);   // cone from base area and height
+void KupaHFi(Figure& f, platform::MessageBox& box);  // cone from height and base angle
+void KupaAFi(Figure& f, platform::MessageBox& box);  // cone from slant side and base angle
+void KupaRfi(Figure& f, platform::MessageBox& box);  // cone from radius and base angle
 
 // The cylinder from R and H: V = pi * R^2 * H.
 void Cilinder(Figure& f, platform::MessageBox& box);

@@ -26,14 +26,15 @@ std::span<const std::string_view> EllipsoidHelp();
 // The captions of the labels `lblEobim` (over `txtEvolume`) and `lblArea`
 // (over `txtELaREA`) for the figure that `Option4` selects.
 struct EllipseLabels {
-  std::string_view lblEobim;
-  std::string_view lblArea;
+  std::string_view lblEobim;  // "obim" is the perimeter; the ellipsoid's volume uses the same label
+  std::string_view lblArea;   // the area, or the ellipsoid's surface
 };
 EllipseLabels EllipsePageLabels(bool ellipsoid);
 
-// The three routines of the ellipsoid.
-void ElipsoidVolume(Figure& f, platform::MessageBox& box);
-void ElipsoidOkoR1(Figure& f, platform::MessageBox& box);
-void ElipsoidokoR2(Figure& f, platform::MessageBox& box);
+// The three routines of the ellipsoid ("oko" is "about": the axis of a
+// rotation).
+void ElipsoidVolume(Figure& f, platform::MessageBox& box);  // volume from the three radii
+void ElipsoidOkoR1(Figure& f, platform::MessageBox& box);   // spheroid turned about R1, the long axis
+void ElipsoidokoR2(Figure& f, platform::MessageBox& box);   // spheroid turned about R2, the short axis
 
 }  // namespace velmora::geometry

@@ -52,18 +52,18 @@ class MatrixCalculator {
   ComplexMatrix MatrixS;
   ComplexMatrix MatrixI;
   complex::ComplexNumber Scalar;
-  Grid grdGrid1{2, 2};
-  Grid grdGrid2{2, 2};
-  Grid grdSolution;
-  Grid grdInverse;
-  Grid grdSwap;
-  Grid grdCopy;
-  std::string txtPrecision = "3";
-  std::string txtEntry2;
-  std::string txtDet;
-  std::string txtEq;
-  std::string SwapCaption;  // the caption of the [T] tab
-  bool chNule = false;      // "Add zeros in empty cells"
+  Grid grdGrid1{2, 2};             // matrix [A] as typed
+  Grid grdGrid2{2, 2};             // matrix [B] as typed
+  Grid grdSolution;                // the result of the last operation
+  Grid grdInverse;                 // the inverse of [A] (or its adjoint)
+  Grid grdSwap;                    // the [T] tab: a transposed or swapped copy
+  Grid grdCopy;                    // the grid the Copy and Paste commands keep
+  std::string txtPrecision = "3";  // decimal places of printed results, 1 to 15
+  std::string txtEntry2;           // the scalar of the scalar operations, as typed
+  std::string txtDet;              // the determinant, as printed
+  std::string txtEq;               // the characteristic equation, as printed
+  std::string SwapCaption;         // the caption of the [T] tab
+  bool chNule = false;             // "Add zeros in empty cells"
 
  private:
   bool SizeFromGrid(ComplexMatrix& m, const std::string& name, const Grid& grid);

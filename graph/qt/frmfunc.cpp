@@ -1,5 +1,6 @@
 #include "graph/qt/frmfunc.h"
 
+#include <chrono>
 #include <functional>
 
 #include <QApplication>
@@ -37,12 +38,18 @@ namespace velmora::graph_qt {
 namespace {
 
 // The screen rate of the picture during a draw.
-constexpr qint64 kScreenIntervalMs = 16;
+constexpr std::int64_t kScreenIntervalMs = 16;
 // How long a size must stay before the window is painted at it again.
 constexpr int kSettleMs = 150;
 constexpr int kStartWidth = 600;
 constexpr int kStartHeight = 400;
 constexpr graph::Colour kLabelGrey = 0xDFDFDF;
+
+std::int64_t SteadyClockMs() {
+  return std::chrono::duration_cast<std::chrono::milliseconds>(
+             std::chrono::steady_clock::now().time_since_epoch())
+      .count();
+}
 
 QString Q(const std::string& text) { return QString::fromStdString(text); }
 std::string S(const QString& text) { return text.toStdString(); }
@@ -85,6 +92,7 @@ FrmFunc::FrmFunc(FrmFuncServices services, QWidget* parent)
     : QWidget(parent),
       services_(services),
       surface_(std::make_unique<QImageSurface>(kStartWidth, kStartHeight)) {
+  if (!services_.clockMs) services_.clockMs = SteadyClockMs;
   setObjectName(QStringLiteral("frmFunc"));
   BuildWidgets();
   graph::GraphServices logicServices =
@@ -373,11 +381,12 @@ void FrmFunc::Done() {
 void FrmFunc::DoEvents() {
   // The picture and the progress text reach the screen at screen rate, not
   // per sample: painting is what would slow the loop.
-  if (!screenClock_.isValid() || screenClock_.elapsed() >= kScreenIntervalMs) {
+  const std::int64_t now = services_.clockMs();
+  if (!lastScreenUpdateMs_ || now - *lastScreenUpdateMs_ >= kScreenIntervalMs) {
     if (progressDirty_) ApplyProgress();
     pDraw_->update();
     ++screenUpdates_;
-    screenClock_.restart();
+    lastScreenUpdateMs_ = now;
   }
   QCoreApplication::processEvents();
 }
@@ -395,7 +404,7 @@ void FrmFunc::ProgressChanged() {
 
 void FrmFunc::DrawStarted() {
   drawShown_ = true;
-  screenClock_.invalidate();
+  lastScreenUpdateMs_.reset();
   // The boxes show what is being drawn, and stay as they are until the end.
   SyncFromLogic();
 }

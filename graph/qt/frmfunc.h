@@ -1,9 +1,11 @@
 #pragma once
 
+#include <cstdint>
+#include <functional>
 #include <memory>
+#include <optional>
 #include <string>
 
-#include <QElapsedTimer>
 #include <QPointer>
 #include <QWidget>
 
@@ -49,6 +51,9 @@ struct FrmFuncServices {
   const graph::HistoryLog* history = nullptr;   // null: no history file (rtb stays empty)
   expr::ActiveWindow* activeWindow = nullptr;   // null: the window is its own active child
   FrameLink* frame = nullptr;                   // null: a lone window (tests, tools)
+  // Milliseconds of a monotonic clock, read by the screen-rate repaints of
+  // a draw; empty: the steady clock. Tests drive it by hand.
+  std::function<std::int64_t()> clockMs;
 };
 
 // `frmFunc`, the graph window, as a Qt view over graph::GraphWindow: the
@@ -209,7 +214,7 @@ class FrmFunc : public QWidget, private graph::GraphHost {
   QLabel* LblChart_ = nullptr;
   QTimer* settle_ = nullptr;
 
-  QElapsedTimer screenClock_;
+  std::optional<std::int64_t> lastScreenUpdateMs_;  // none: the next sample repaints
   int screenUpdates_ = 0;
   bool drawShown_ = false;  // the widgets show a draw in progress
   bool progressDirty_ = false;

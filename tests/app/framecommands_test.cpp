@@ -67,15 +67,26 @@ struct Fixture {
 };
 
 TEST(FrameCommands, WithNoActiveWindowEveryWindowCommandDoesNothing) {
+  // The commands hold nothing but the settings store, and the child is not
+  // given to them: the store is where a command that went on without a
+  // window would leave a trace (the examples read and write it, the
+  // views read AutoRedraw).
   Fixture f;
+  const int reads = f.child.settings.Reads();
+  const int writes = f.child.settings.Writes();
   for (Command c :
        {Command::ClearAll, Command::ClearGrid, Command::ZoomIn, Command::MoveRight, Command::ColorBack,
         Command::TypePolar, Command::DrawFunction, Command::Options, Command::ClearFunction}) {
     EXPECT_TRUE(f.commands.Run(c, nullptr));
   }
   f.commands.DrawRecent("SinX ; K | Cartesian", nullptr);
-  EXPECT_TRUE(f.child.messages.Boxes().empty());
-  EXPECT_TRUE(f.child.calls.empty());
+  f.commands.LoadExample(graph::ExampleMenus()[0].entries[0], nullptr);
+  EXPECT_EQ(f.child.settings.Reads(), reads);
+  EXPECT_EQ(f.child.settings.Writes(), writes);
+
+  // The same example with the window does reach the store.
+  f.commands.LoadExample(graph::ExampleMenus()[0].entries[0], &f.child);
+  EXPECT_GT(f.child.settings.Reads() + f.child.settings.Writes(), reads + writes);
 }
 
 TEST(FrameCommands, NonWindowCommandsAreLeftToTheFrame) {

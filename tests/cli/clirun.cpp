@@ -1,15 +1,16 @@
 #include "tests/cli/clirun.h"
 
+#include <sys/wait.h>
 #include <unistd.h>
 
-#include <chrono>
-#include <cstdio>
-#include <filesystem>
+#include <cstdlib>
 #include <fstream>
+#include <sstream>
 
 namespace velmora::testing {
 namespace {
 
+// Single quotes keep every character of a word from the shell.
 std::string Quote(const std::string& word) {
   std::string q = "'";
   for (const char c : word) {
@@ -22,34 +23,50 @@ std::string Quote(const std::string& word) {
   return q + "'";
 }
 
+// A fresh private folder for one run's streams.
+std::filesystem::path MakeRunFolder() {
+  std::string pattern = (std::filesystem::temp_directory_path() / "velmora-cli-XXXXXX").string();
+  if (mkdtemp(pattern.data()) == nullptr) return {};
+  return pattern;
+}
+
 }  // namespace
 
-CliRun RunCli(const std::vector<std::string>& args, const std::string& input) {
+CliRun RunCli(const std::vector<std::string>& args, const CliOptions& options) {
   CliRun run;
-  std::string path = (std::filesystem::temp_directory_path() / "velmora-cli-XXXXXX").string();
-  const int fd = mkstemp(path.data());
-  if (fd < 0) {
-    run.out = "cannot make a temporary file";
+  const std::filesystem::path folder = MakeRunFolder();
+  if (folder.empty()) {
+    run.err = "cannot make a temporary folder";
     return run;
   }
-  close(fd);
-  {
-    std::ofstream f(path, std::ios::binary);
-    f << input;
+  const auto in = folder / "stdin";
+  const auto out = folder / "stdout";
+  const auto err = folder / "stderr";
+  std::ofstream(in, std::ios::binary) << options.input;
+
+  std::string command;
+  for (const auto& variable : options.environment) {
+    const auto eq = variable.find('=');
+    command += variable.substr(0, eq) + "=" + Quote(variable.substr(eq + 1)) + " ";
   }
-  std::string command = Quote(VELMORA_CLI);
+  command += Quote(VELMORA_CLI);
   for (const auto& a : args) command += " " + Quote(a);
-  command += " < " + Quote(path) + " 2>/dev/null";
-  const auto start = std::chrono::steady_clock::now();
-  if (FILE* p = popen(command.c_str(), "r")) {
-    char buf[65536];
-    std::size_t n = 0;
-    while ((n = fread(buf, 1, sizeof buf, p)) > 0) run.out.append(buf, n);
-    run.status = pclose(p);
-  }
-  run.seconds = std::chrono::duration<double>(std::chrono::steady_clock::now() - start).count();
-  std::filesystem::remove(path);
+  command += " < " + Quote(in.string()) + " > " + Quote(out.string());
+  command += options.joinErrorToOutput ? std::string(" 2>&1") : " 2> " + Quote(err.string());
+
+  const int raw = std::system(command.c_str());
+  run.status = (raw != -1 && WIFEXITED(raw)) ? WEXITSTATUS(raw) : -1;
+  run.out = Slurp(out);
+  run.err = Slurp(err);
+  std::error_code ignored;
+  std::filesystem::remove_all(folder, ignored);
   return run;
+}
+
+CliRun RunCli(const std::vector<std::string>& args, const std::string& input) {
+  CliOptions options;
+  options.input = input;
+  return RunCli(args, options);
 }
 
 std::vector<std::string> Lines(const std::string& text) {
@@ -65,6 +82,31 @@ std::vector<std::string> Lines(const std::string& text) {
     start = end + 1;
   }
   return lines;
+}
+
+std::string Slurp(const std::filesystem::path& path) {
+  std::ifstream in(path, std::ios::binary);
+  std::ostringstream s;
+  s << in.rdbuf();
+  return s.str();
+}
+
+CliScratch::CliScratch(const std::string& name)
+    : folder_(std::filesystem::temp_directory_path() /
+              ("velmora-cli-" + name + "-" + std::to_string(static_cast<long>(getpid())))) {
+  std::filesystem::remove_all(folder_);
+  std::filesystem::create_directories(folder_);
+}
+
+CliScratch::~CliScratch() {
+  std::error_code ignored;
+  std::filesystem::remove_all(folder_, ignored);
+}
+
+std::filesystem::path CliScratch::File(const std::string& name, const std::string& bytes) const {
+  const auto path = folder_ / name;
+  std::ofstream(path, std::ios::binary) << bytes;
+  return path;
 }
 
 }  // namespace velmora::testing

@@ -2,12 +2,12 @@
 
 #include <string>
 
-#include "tests/cli/clirunner.h"
+#include "tests/cli/clirun.h"
 
 namespace velmora::cli {
 namespace {
 
-using testing::CliRunner;
+using testing::CliScratch;
 
 struct LineCase {
   const char* input;
@@ -41,7 +41,7 @@ const LineCase kLines[] = {
 };
 
 TEST(CNumberCommand, Lines) {
-  CliRunner cli("cnumber-lines");
+  CliScratch cli("cnumber-lines");
   for (const auto& c : kLines) {
     const auto r = cli.Run({"cnumber"}, c.input);
     EXPECT_EQ(r.status, 0) << c.why;
@@ -86,7 +86,7 @@ const FieldCase kFields[] = {
 };
 
 TEST(CNumberCommand, Operations) {
-  CliRunner cli("cnumber-ops");
+  CliScratch cli("cnumber-ops");
   for (const auto& c : kFields) {
     const auto r = cli.Run({"cnumber"}, c.input);
     EXPECT_EQ(r.status, 0) << c.why;
@@ -95,7 +95,7 @@ TEST(CNumberCommand, Operations) {
 }
 
 TEST(CNumberCommand, ErrorsAreLinesAndTheStatus) {
-  CliRunner cli("cnumber-errors");
+  CliScratch cli("cnumber-errors");
   const auto r = cli.Run({"cnumber"}, "ADD\nRECT 1\nBOGUS 2\nPOWER x\n\n");
   EXPECT_EQ(r.status, 1);
   EXPECT_EQ(r.out.substr(0, r.out.find('\n')), "error: ADD needs two numbers before it");

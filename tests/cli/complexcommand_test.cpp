@@ -1,44 +1,19 @@
 // Runs the built velmora-cli complex and compares its whole output.
 #include <gtest/gtest.h>
-#include <sys/wait.h>
 
-#include <array>
-#include <cstdio>
 #include <string>
 #include <vector>
 
+#include "tests/cli/clirun.h"
+
+namespace velmora::testing {
 namespace {
 
-struct RunResult {
-  std::string out;
-  int status;
-};
-
-// Single quotes keep every character of an argument from the shell.
-std::string Quote(const std::string& arg) {
-  std::string quoted = "'";
-  for (char ch : arg) {
-    if (ch == '\'') {
-      quoted += "'\\''";
-    } else {
-      quoted += ch;
-    }
-  }
-  return quoted + "'";
-}
-
-RunResult RunCli(const std::vector<std::string>& args) {
-  std::string command = Quote(VELMORA_CLI_PATH) + " complex";
-  for (const auto& arg : args) command += " " + Quote(arg);
-  command += " 2>/dev/null";
-  FILE* pipe = popen(command.c_str(), "r");
-  if (pipe == nullptr) return {"", -1};
-  std::string out;
-  std::array<char, 256> buffer{};
-  std::size_t n = 0;
-  while ((n = std::fread(buffer.data(), 1, buffer.size(), pipe)) > 0) out.append(buffer.data(), n);
-  const int status = pclose(pipe);
-  return {out, WIFEXITED(status) ? WEXITSTATUS(status) : -1};
+// `velmora-cli complex` with the words after it.
+CliRun RunComplex(const std::vector<std::string>& args) {
+  std::vector<std::string> words = {"complex"};
+  words.insert(words.end(), args.begin(), args.end());
+  return RunCli(words);
 }
 
 struct CliCase {
@@ -54,7 +29,7 @@ class ComplexCommandTest : public ::testing::TestWithParam<CliCase> {};
 
 TEST_P(ComplexCommandTest, Output) {
   const auto& c = GetParam();
-  const RunResult r = RunCli(c.args);
+  const CliRun r = RunComplex(c.args);
   EXPECT_EQ(r.out, c.out);
   EXPECT_EQ(r.status, c.status);
 }
@@ -99,3 +74,4 @@ INSTANTIATE_TEST_SUITE_P(
     [](const auto& row) { return std::string(row.param.name); });
 
 }  // namespace
+}  // namespace velmora::testing

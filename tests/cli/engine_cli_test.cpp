@@ -1,40 +1,20 @@
 // velmora-cli engine, driven from outside: the input lines go to the program
 // through a file, and every line must get exactly its one answer.
 #include <gtest/gtest.h>
-#include <unistd.h>
 
-#include <cstdio>
-#include <cstdlib>
-#include <filesystem>
-#include <fstream>
-#include <sstream>
 #include <string>
 #include <vector>
 
+#include "tests/cli/clirun.h"
+
+namespace velmora::testing {
 namespace {
 
 // Runs `velmora-cli engine` on the input text; returns its standard output.
 std::string RunEngine(const std::string& input, int* status = nullptr) {
-  std::string path = (std::filesystem::temp_directory_path() / "velmora-engine-XXXXXX").string();
-  const int fd = mkstemp(path.data());
-  if (fd < 0) return "cannot make a temporary file";
-  close(fd);
-  const std::filesystem::path in = path;
-  {
-    std::ofstream f(in, std::ios::binary);
-    f << input;
-  }
-  const std::string command = std::string("'") + VELMORA_CLI + "' engine < '" + in.string() + "'";
-  std::string out;
-  if (FILE* p = popen(command.c_str(), "r")) {
-    char buf[4096];
-    std::size_t n = 0;
-    while ((n = fread(buf, 1, sizeof buf, p)) > 0) out.append(buf, n);
-    const int rc = pclose(p);
-    if (status != nullptr) *status = rc;
-  }
-  std::filesystem::remove(in);
-  return out;
+  const CliRun run = RunCli({"engine"}, input);
+  if (status != nullptr) *status = run.status;
+  return run.out;
 }
 
 std::string Join(const std::vector<std::string>& lines) {
@@ -103,8 +83,8 @@ TEST(EngineCliRobustnessTest, HostileLinesKeepTheirPlace) {
 
 TEST(EngineCliRobustnessTest, ArgumentsAreRefused) {
   // The command takes no arguments; a stray one is a usage error, not a hang.
-  const std::string command = std::string("'") + VELMORA_CLI + "' engine extra < /dev/null 2>/dev/null";
-  EXPECT_NE(std::system(command.c_str()), 0);
+  EXPECT_NE(RunCli({"engine", "extra"}).status, 0);
 }
 
 }  // namespace
+}  // namespace velmora::testing

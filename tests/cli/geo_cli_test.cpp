@@ -1,34 +1,13 @@
 // velmora-cli geo, convert and base, run as a user runs them.
 #include <gtest/gtest.h>
-#include <sys/wait.h>
 
-#include <cstdio>
 #include <string>
 #include <vector>
 
+#include "tests/cli/clirun.h"
+
+namespace velmora::testing {
 namespace {
-
-struct Output {
-  int status;
-  std::string out;
-};
-
-// Runs velmora-cli with the words (each quoted for the shell) and collects
-// standard output; standard error is discarded.
-Output RunCli(const std::vector<std::string>& words) {
-  std::string command = "'" VELMORA_CLI "'";
-  for (const auto& w : words) command += " '" + w + "'";
-  command += " 2>/dev/null";
-  Output result{-1, {}};
-  FILE* pipe = popen(command.c_str(), "r");
-  if (pipe == nullptr) return result;
-  char buffer[4096];
-  std::size_t n = 0;
-  while ((n = fread(buffer, 1, sizeof buffer, pipe)) > 0) result.out.append(buffer, n);
-  const int status = pclose(pipe);
-  result.status = WIFEXITED(status) ? WEXITSTATUS(status) : -1;
-  return result;
-}
 
 struct CliCase {
   std::vector<std::string> words;
@@ -41,7 +20,7 @@ class CliTest : public ::testing::TestWithParam<CliCase> {};
 
 TEST_P(CliTest, PrintsTheRecord) {
   const auto& c = GetParam();
-  const Output o = RunCli(c.words);
+  const CliRun o = RunCli(c.words);
   EXPECT_EQ(o.status, c.status) << c.why;
   EXPECT_EQ(o.out, c.out) << c.why;
 }
@@ -211,3 +190,4 @@ INSTANTIATE_TEST_SUITE_P(
         CliCase{{"base", "5", "1"}, 2, "", "no such base"}));
 
 }  // namespace
+}  // namespace velmora::testing

@@ -3,12 +3,12 @@
 #include <string>
 #include <vector>
 
-#include "tests/cli/clirunner.h"
+#include "tests/cli/clirun.h"
 
 namespace velmora::cli {
 namespace {
 
-using testing::CliRunner;
+using testing::CliScratch;
 using testing::Slurp;
 
 const char* const kA = " 2  2 \r\n1\r\n2\r\n3\r\n4\r\n";
@@ -22,7 +22,7 @@ class MatrixCommandTest : public ::testing::Test {
     b_ = cli_.File("b.mcf", kB).string();
     singular_ = cli_.File("s.mcf", kSingular).string();
   }
-  CliRunner cli_{"matrix"};
+  CliScratch cli_{"matrix"};
   std::string a_;
   std::string b_;
   std::string singular_;

@@ -2,38 +2,17 @@
 #include <gtest/gtest.h>
 
 #include <cmath>
-#include <cstdio>
 #include <filesystem>
 #include <fstream>
 #include <string>
 #include <vector>
 
+#include "tests/cli/clirun.h"
+
+namespace velmora::testing {
 namespace {
 
 namespace fs = std::filesystem;
-
-struct PlotRun {
-  std::string out;  // standard output and error together
-  int status = -1;
-};
-
-std::string Quote(const std::string& word) {
-  std::string q = "'";
-  for (const char c : word) q += c == '\'' ? std::string("'\\''") : std::string(1, c);
-  return q + "'";
-}
-
-std::vector<std::string> Lines(const std::string& text) {
-  std::vector<std::string> lines;
-  std::size_t start = 0;
-  while (start < text.size()) {
-    const auto end = text.find('\n', start);
-    lines.push_back(text.substr(start, end - start));
-    if (end == std::string::npos) break;
-    start = end + 1;
-  }
-  return lines;
-}
 
 std::vector<std::string> Split(const std::string& line) {
   std::vector<std::string> cells;
@@ -46,53 +25,32 @@ std::vector<std::string> Split(const std::string& line) {
   }
 }
 
-std::string ReadFile(const fs::path& path) {
-  std::ifstream in(path, std::ios::binary);
-  std::string all;
-  char c;
-  while (in.get(c)) all += c;
-  return all;
-}
-
 class PlotCli : public ::testing::Test {
  protected:
-  void SetUp() override {
-    dir_ = fs::temp_directory_path() /
-           ("velmora-plot-" + std::string(::testing::UnitTest::GetInstance()->current_test_info()->name()));
-    fs::remove_all(dir_);
-    fs::create_directories(dir_);
-  }
-  void TearDown() override { fs::remove_all(dir_); }
-
   // Runs plot with a settings file and a history file in the test's folder;
   // the user's folders point there too, so no run touches the real ones.
-  PlotRun Plot(std::vector<std::string> args, bool ownFiles = true) {
-    std::string command =
-        "HOME=" + Quote(dir_.string()) + " XDG_CONFIG_HOME=" + Quote((dir_ / "config").string()) +
-        " XDG_DATA_HOME=" + Quote((dir_ / "data").string()) + " " + Quote(VELMORA_CLI) + " plot";
+  CliRun Plot(const std::vector<std::string>& args, bool ownFiles = true) {
+    CliOptions options;
+    options.environment = {"HOME=" + dir_.string(), "XDG_CONFIG_HOME=" + (dir_ / "config").string(),
+                           "XDG_DATA_HOME=" + (dir_ / "data").string()};
+    options.joinErrorToOutput = true;
+    std::vector<std::string> words = {"plot"};
     if (ownFiles) {
-      command += " --settings " + Quote(Settings().string()) + " --history " + Quote(History().string());
+      words.insert(words.end(), {"--settings", Settings().string(), "--history", History().string()});
     }
-    for (const auto& a : args) command += " " + Quote(a);
-    command += " 2>&1 </dev/null";
-    PlotRun run;
-    if (FILE* p = popen(command.c_str(), "r")) {
-      char buf[65536];
-      std::size_t n = 0;
-      while ((n = fread(buf, 1, sizeof buf, p)) > 0) run.out.append(buf, n);
-      run.status = pclose(p);
-    }
-    return run;
+    words.insert(words.end(), args.begin(), args.end());
+    return RunCli(words, options);
   }
   fs::path Settings() const { return dir_ / "settings.ini"; }
   fs::path History() const { return dir_ / "GraphLog.txt"; }
   void SetGrid(const std::string& lines) { std::ofstream(Settings()) << "[Grid]\n" << lines; }
 
-  fs::path dir_;
+  CliScratch scratch_{"plot-" + std::string(::testing::UnitTest::GetInstance()->current_test_info()->name())};
+  const fs::path& dir_ = scratch_.Folder();
 };
 
 TEST_F(PlotCli, TraceHasOneLinePerPassWithSevenColumns) {
-  const PlotRun run = Plot({"--y", "SinX", "--trace"});
+  const CliRun run = Plot({"--y", "SinX", "--trace"});
   ASSERT_EQ(run.status, 0) << run.out;
   const auto lines = Lines(run.out);
   ASSERT_EQ(lines.size(), 601u);
@@ -102,7 +60,7 @@ TEST_F(PlotCli, TraceHasOneLinePerPassWithSevenColumns) {
 }
 
 TEST_F(PlotCli, SamplesFollowTheWidth) {
-  const PlotRun run = Plot({"--width", "100", "--height", "80", "--y", "X", "--trace"});
+  const CliRun run = Plot({"--width", "100", "--height", "80", "--y", "X", "--trace"});
   EXPECT_EQ(Lines(run.out).size(), 101u);
   EXPECT_EQ(Split(Lines(run.out)[0])[0], "-1.667");  // -50 / 30 cut toward minus infinity
 }
@@ -110,7 +68,7 @@ TEST_F(PlotCli, SamplesFollowTheWidth) {
 TEST_F(PlotCli, SkippedSamplesAndTheInvisiblePenInTheTrace) {
   // 1/X at zoom 177: the samples next to the pole pass 100, are skipped, and
   // leave the pen invisible for the next segment.
-  const PlotRun run = Plot({"--width", "60", "--zoom", "177", "--y", "1/X", "--trace"});
+  const CliRun run = Plot({"--width", "60", "--zoom", "177", "--y", "1/X", "--trace"});
   const auto lines = Lines(run.out);
   ASSERT_EQ(lines.size(), 61u);
   int beyond = 0;
@@ -121,12 +79,12 @@ TEST_F(PlotCli, SkippedSamplesAndTheInvisiblePenInTheTrace) {
     EXPECT_EQ(cells[6], "5") << lines[i];
   }
   EXPECT_GE(beyond, 2);
-  const PlotRun zero = Plot({"--width", "10", "--y", "0", "--trace"});
+  const CliRun zero = Plot({"--width", "10", "--y", "0", "--trace"});
   for (const auto& line : Lines(zero.out)) EXPECT_EQ(Split(line)[5], "skip");
 }
 
 TEST_F(PlotCli, TableAndStatus) {
-  const PlotRun run = Plot({"--y", "X^2", "--table", "--status"});
+  const CliRun run = Plot({"--y", "X^2", "--table", "--status"});
   ASSERT_EQ(run.status, 0) << run.out;
   const auto lines = Lines(run.out);
   // From Xpoc to Xkraj: -10 to 9.999, the last K cut down, by 1.
@@ -143,7 +101,7 @@ TEST_F(PlotCli, TableAndStatus) {
 TEST_F(PlotCli, HistoryGoesToTheGivenFileWithCrLf) {
   Plot({"--y", "SinK"});
   Plot({"--type", "polar", "--y", "1+CosK"});
-  EXPECT_EQ(ReadFile(History()),
+  EXPECT_EQ(Slurp(History()),
             "\r\n Y(X) = sinx\r\n X = ; Y = \r\n ____________________________________\r\n"
             "\r\n R(K) = 1+cosk\r\n ____________________________________\r\n");
   EXPECT_FALSE(fs::exists(dir_ / "data" / "Velmora" / "GraphLog.txt"));
@@ -151,20 +109,20 @@ TEST_F(PlotCli, HistoryGoesToTheGivenFileWithCrLf) {
 
 TEST_F(PlotCli, WithoutFilesTheUsersStoreAndLogAreUsed) {
   Plot({"--y", "X/2"}, false);
-  EXPECT_NE(ReadFile(dir_ / "config" / "Velmora" / "Velmora.ini").find("Recent1=\"X/2 ; K | Cartesian\""),
+  EXPECT_NE(Slurp(dir_ / "config" / "Velmora" / "Velmora.ini").find("Recent1=\"X/2 ; K | Cartesian\""),
             std::string::npos);
-  EXPECT_NE(ReadFile(dir_ / "data" / "Velmora" / "GraphLog.txt").find(" Y(X) = x/2"), std::string::npos);
+  EXPECT_NE(Slurp(dir_ / "data" / "Velmora" / "GraphLog.txt").find(" Y(X) = x/2"), std::string::npos);
 }
 
 TEST_F(PlotCli, RecentFunctionsAreKeptInTheSettingsFile) {
   Plot({"--y", "X/2", "--type", "parametric", "--y", "SinK", "--x", "CosK"});
-  const std::string ini = ReadFile(Settings());
+  const std::string ini = Slurp(Settings());
   EXPECT_NE(ini.find("Recent1=\"SinK ; CosK | Parametric\""), std::string::npos) << ini;
   EXPECT_NE(ini.find("Recent2=\"X/2 ; K | Cartesian\""), std::string::npos) << ini;
 }
 
 TEST_F(PlotCli, ParametricTable) {
-  const PlotRun run = Plot({"--type", "parametric", "--y", "SinK", "--x", "CosK", "--table", "--status"});
+  const CliRun run = Plot({"--type", "parametric", "--y", "SinK", "--x", "CosK", "--table", "--status"});
   const auto lines = Lines(run.out);
   ASSERT_EQ(lines.size(), 20u + 3u);
   EXPECT_EQ(lines[0], "K\tX (K)\tY (K)");
@@ -207,7 +165,7 @@ TEST_F(PlotCli, ReplayRunsRedrawFuncAtTheEnd) {
 }
 
 TEST_F(PlotCli, BadSyntaxIsAMessageAndNoRecord) {
-  const PlotRun run = Plot({"--y", "Sin(X", "--trace"});
+  const CliRun run = Plot({"--y", "Sin(X", "--trace"});
   EXPECT_EQ(run.status, 0);
   EXPECT_EQ(Lines(run.out), (std::vector<std::string>{"message: Check bracket placement!"}));
   EXPECT_FALSE(fs::exists(History()));
@@ -217,13 +175,13 @@ TEST_F(PlotCli, BadSyntaxIsAMessageAndNoRecord) {
 // The image surface draws the arrow fonts' glyphs itself.
 TEST_F(PlotCli, ArrowsNeedNoMessageOnTheImageSurface) {
   SetGrid("Ozna=1\n");
-  const PlotRun run = Plot({"--status"});
+  const CliRun run = Plot({"--status"});
   EXPECT_EQ(run.out.find("message: Fonts Marlett or Webdings are missing."), std::string::npos);
 }
 #else
 TEST_F(PlotCli, MissingArrowFontsArePrintedAsAMessage) {
   SetGrid("Ozna=1\n");
-  const PlotRun run = Plot({"--status"});
+  const CliRun run = Plot({"--status"});
   EXPECT_NE(run.out.find("message: Fonts Marlett or Webdings are missing."), std::string::npos);
 }
 #endif
@@ -238,9 +196,9 @@ TEST_F(PlotCli, BadCommandLines) {
 #ifdef VELMORA_CLI_HAS_PNG
 TEST_F(PlotCli, PngOfTheSurface) {
   const fs::path png = dir_ / "plot.png";
-  const PlotRun run = Plot({"--width", "321", "--height", "123", "--y", "SinX", "--png", png.string()});
+  const CliRun run = Plot({"--width", "321", "--height", "123", "--y", "SinX", "--png", png.string()});
   ASSERT_EQ(run.status, 0) << run.out;
-  const std::string data = ReadFile(png);
+  const std::string data = Slurp(png);
   ASSERT_GT(data.size(), 24u);
   EXPECT_EQ(data.substr(1, 3), "PNG");
   const auto byte = [&data](std::size_t i) { return static_cast<unsigned char>(data[i]); };
@@ -256,14 +214,14 @@ TEST_F(PlotCli, RandomColoursRepeatFromStartToStart) {
   const fs::path b = dir_ / "b.png";
   Plot({"--y", "X/2", "--y", "X/3", "--png", a.string()});
   Plot({"--y", "X/2", "--y", "X/3", "--png", b.string()});
-  EXPECT_EQ(ReadFile(a), ReadFile(b));
+  EXPECT_EQ(Slurp(a), Slurp(b));
   std::ofstream(Settings()) << "[Grid]\nRnd=0\n";
   Plot({"--y", "X/2", "--y", "X/3", "--png", b.string()});
-  EXPECT_NE(ReadFile(a), ReadFile(b));
+  EXPECT_NE(Slurp(a), Slurp(b));
 }
 #else
 TEST_F(PlotCli, PngNeedsQt) {
-  const PlotRun run = Plot({"--y", "X", "--png", (dir_ / "plot.png").string(), "--status"});
+  const CliRun run = Plot({"--y", "X", "--png", (dir_ / "plot.png").string(), "--status"});
   EXPECT_NE(run.status, 0);
   EXPECT_NE(run.out.find("--png needs a build with Qt"), std::string::npos);
   EXPECT_NE(run.out.find("Y (X) = X"), std::string::npos);  // the rest still ran
@@ -271,3 +229,4 @@ TEST_F(PlotCli, PngNeedsQt) {
 #endif
 
 }  // namespace
+}  // namespace velmora::testing

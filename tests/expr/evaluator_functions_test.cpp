@@ -9,6 +9,7 @@
 #include "expr/evaluator.h"
 #include "expr/functionlibrary.h"
 #include "tests/expr/fakegraphwindow.h"
+#include "tests/support/evaluatorstate.h"
 
 namespace velmora::expr {
 namespace {

@@ -9,6 +9,7 @@
 #include "expr/fault.h"
 #include "expr/functionlibrary.h"
 #include "tests/expr/fakegraphwindow.h"
+#include "tests/support/evaluatorstate.h"
 #include "tests/support/recordingmessagebox.h"
 
 namespace velmora::expr {
@@ -534,13 +535,42 @@ TEST(Evaluate3Test, Messages) {
 TEST(Evaluate3Test, SilentShowsNothingAndLeavesTheFlag) {
   RecordingMessageBox box;
   Evaluator ev(&box, nullptr);
-  Evaluator::FailureFlag() = false;
   EXPECT_EQ(ev.Evaluate3("LN(0)", true), 0);
   EXPECT_EQ(ev.Error(), 16);
   ev.Evaluate3("SIN", true);
   EXPECT_EQ(ev.Error(), 2);
   EXPECT_TRUE(box.Boxes().empty());
   EXPECT_FALSE(Evaluator::FailureFlag());
+}
+
+// The text of the failure box of a loud run-time failure: it names the
+// current argument.
+std::string FailureBoxText() {
+  RecordingMessageBox box;
+  Evaluator ev(&box, nullptr);
+  ev.Evaluate3("LN(0)", false);
+  return box.Boxes().size() == 1 ? box.Boxes()[0].text : "no single box";
+}
+
+TEST(EvaluatorModuleStateTest, ResetClearsTheArgumentAndTheFlag) {
+  Evaluator::SetCurrentArgument("7");
+  Evaluator::FailureFlag() = true;
+  Evaluator::ResetModuleState();
+  EXPECT_FALSE(Evaluator::FailureFlag());
+  EXPECT_NE(FailureBoxText().find("(X = )"), std::string::npos) << FailureBoxText();
+}
+
+// These two run in this order: the first leaves the state as a failed draw
+// leaves it, and the second must not see it (tests/support/evaluatorstate.h).
+TEST(EvaluatorModuleStateTest, AReportedFailureRaisesTheFlag) {
+  Evaluator::SetCurrentArgument("-2,5");
+  EXPECT_NE(FailureBoxText().find("(X = -2,5)"), std::string::npos);
+  EXPECT_TRUE(Evaluator::FailureFlag());
+}
+
+TEST(EvaluatorModuleStateTest, EveryTestStartsWithTheFlagDownAndNoArgument) {
+  EXPECT_FALSE(Evaluator::FailureFlag());
+  EXPECT_NE(FailureBoxText().find("(X = )"), std::string::npos) << FailureBoxText();
 }
 
 TEST(Evaluate3Test, ReturnsTheStoredResult) {

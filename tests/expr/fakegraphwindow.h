@@ -29,9 +29,12 @@ class FakeGraphWindow final : public expr::ActiveWindow, public expr::GraphField
   }
 
   bool hasGraph = true;
+  // The fraction keypad's digit fields (the parity of their last digits
+  // picks the row of a rational power) and the caption whose "OK" turns
+  // rational mode on.
   std::string txtImenilac, txtY3, txtY2, lblY3;
-  int boje2Calls = 0;
-  int boje3Calls = 0;
+  int boje2Calls = 0;  // pen set to the background colour
+  int boje3Calls = 0;  // pen set back to the graph colour
   int fieldReads = 0;
 
  private:

@@ -8,6 +8,7 @@
 
 #include "expr/evaluator.h"
 #include "tests/expr/fakegraphwindow.h"
+#include "tests/support/evaluatorstate.h"
 #include "tests/support/recordingmessagebox.h"
 
 namespace velmora::expr {

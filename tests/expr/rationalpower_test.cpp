@@ -11,6 +11,7 @@
 #include "expr/evaluator.h"
 #include "expr/fault.h"
 #include "tests/expr/fakegraphwindow.h"
+#include "tests/support/evaluatorstate.h"
 
 namespace velmora::expr {
 namespace {

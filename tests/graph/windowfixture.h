@@ -9,6 +9,7 @@
 #include "graph/historylog.h"
 #include "platform/memorysettingsstore.h"
 #include "platform/recentlist.h"
+#include "tests/support/evaluatorstate.h"
 #include "tests/support/recordingmessagebox.h"
 #include "tests/support/recordingsurface.h"
 #include "tests/support/scriptedformula.h"

@@ -7,6 +7,7 @@
 #include "expr/evaluator.h"
 #include "expr/fault.h"
 #include "expr/replacetext.h"
+#include "tests/support/evaluatorstate.h"
 #include "tests/support/scriptedformula.h"
 
 namespace velmora::testing {

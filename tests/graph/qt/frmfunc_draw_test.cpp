@@ -142,11 +142,44 @@ TEST_F(DrawTest, TheWidgetsFollowADrawStartedThroughTheLogic) {
 }
 
 TEST_F(DrawTest, TheScreenIsRepaintedAtScreenRateNotPerSample) {
+  // A clock the test moves by `step` at every read; the window reads it once
+  // per pumped sample. The draws go through the logic, as the frame starts
+  // them.
+  std::int64_t now = 0;
+  std::int64_t step = 0;
+  int reads = 0;
+  clockMs = [&] {
+    ++reads;
+    now += step;
+    return now;
+  };
   Make();
-  TypeAndEnter(QStringLiteral("SinX"));
-  // 600 samples; a repaint at most every 16 ms.
-  EXPECT_LT(window->ScreenUpdates(), 100);
-  EXPECT_GE(window->ScreenUpdates(), 1);
+  struct Row {
+    std::int64_t step;
+    const char* function;
+    const char* why;
+  };
+  const Row rows[] = {
+      {0, "SinX", "a clock that stands still: the first sample only"},
+      {1, "CosX", "1 ms per sample: the first, then one in every 16"},
+      {16, "X/2", "16 ms per sample: every sample"},
+      {40, "X/3", "slower than the screen: still every sample, never more"},
+  };
+  for (const auto& r : rows) {
+    step = r.step;
+    reads = 0;
+    const int before = window->ScreenUpdates();
+    Logic().txtY.Text = r.function;
+    Logic().CrtajFJU();
+    const int updates = window->ScreenUpdates() - before;
+    ASSERT_GT(reads, 100) << r.why;  // one read per sample of 600 columns
+    const int expected = r.step == 0 ? 1 : r.step >= 16 ? reads : (reads + 15) / 16;
+    EXPECT_EQ(updates, expected) << r.why;
+  }
+  // The function box loses the focus while the window is whole, not in its
+  // destructor (the box's focus-out reaches the window's list handler).
+  window->pDraw()->setFocus();
+  QApplication::processEvents();
 }
 
 }  // namespace

@@ -2,6 +2,8 @@
 
 #include <gtest/gtest.h>
 
+#include <cstdint>
+#include <functional>
 #include <memory>
 #include <string>
 
@@ -20,6 +22,7 @@
 #include "platform/memorysettingsstore.h"
 #include "platform/recentlist.h"
 #include "tests/graph/dialogfakes.h"
+#include "tests/support/evaluatorstate.h"
 #include "tests/support/recordingmessagebox.h"
 #include "tests/support/scriptedinputbox.h"
 
@@ -72,6 +75,7 @@ class FrmFuncTest : public ::testing::Test {
     services.recent = recent.get();
     services.history = history.get();
     services.frame = &frame;
+    services.clockMs = clockMs;
     window = std::make_unique<graph_qt::FrmFunc>(services);
     window->pDraw()->setFixedSize(width, height);
     window->show();
@@ -93,6 +97,7 @@ class FrmFuncTest : public ::testing::Test {
     QTest::keyClick(window->txtY(), Qt::Key_Return);
   }
 
+  std::function<std::int64_t()> clockMs;  // empty: the window's steady clock
   QTemporaryDir dir;
   platform::MemorySettingsStore settings;
   RecordingMessageBox messages;
