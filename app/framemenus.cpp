@@ -5,6 +5,8 @@
 #include <QMenu>
 #include <QMenuBar>
 
+#include "app/menucaption.h"
+
 namespace velmora::app {
 
 QString ControlName(std::string_view name, int index) {
@@ -17,6 +19,13 @@ QString PlainCaption(const std::string& text) {
   QString caption = QString::fromStdString(text);
   caption.replace(QLatin1Char('&'), QStringLiteral("&&"));
   return caption;
+}
+
+void SetLongCaption(QAction* action, const std::string& text) {
+  const QString caption = PlainCaption(ElideMiddle(text));
+  if (action->text() != caption) action->setText(caption);
+  const QString whole = QString::fromStdString(text);
+  if (action->statusTip() != whole) action->setStatusTip(whole);
 }
 
 namespace {
@@ -112,8 +121,7 @@ void FrameMenus::Refresh(const FrameView& view, const platform::RecentList& rece
   if (recentSeparator_ != nullptr) recentSeparator_->setVisible(recent.SeparatorVisible());
   for (int i = 1; i <= platform::RecentList::kEntries; ++i) {
     QAction* action = recent_[static_cast<std::size_t>(i - 1)];
-    const QString caption = PlainCaption(recent.Caption(i));
-    if (action->text() != caption) action->setText(caption);
+    SetLongCaption(action, recent.Caption(i));
     action->setVisible(i <= recent.VisibleEntries());
   }
 }
@@ -128,7 +136,9 @@ void FrameMenus::SetWindowList(const std::vector<QString>& titles, int active) {
   windowSeparator_->setVisible(!titles.empty());
   for (std::size_t i = 0; i < titles.size(); ++i) {
     const QString number = i < 9 ? QStringLiteral("&%1 ").arg(i + 1) : QStringLiteral("%1 ").arg(i + 1);
-    QAction* action = windowMenu_->addAction(number + PlainCaption(titles[i].toStdString()));
+    QAction* action = windowMenu_->addAction(QString());
+    SetLongCaption(action, titles[i].toStdString());
+    action->setText(number + action->text());
     action->setObjectName(QStringLiteral("mnuWinList(%1)").arg(i));
     action->setCheckable(true);
     action->setChecked(static_cast<int>(i) == active);

@@ -69,4 +69,9 @@ QString ControlName(std::string_view name, int index);
 // A text as a menu caption that shows it as it stands ("&" doubled).
 QString PlainCaption(const std::string& text);
 
+// Gives an entry that shows a user's text (a recent function, a window's
+// title) that text as its caption, cut in the middle when it is long
+// (ElideMiddle), and the whole text as its status tip.
+void SetLongCaption(QAction* action, const std::string& text);
+
 }  // namespace velmora::app

@@ -78,10 +78,11 @@ void FrameToolbars::Apply(const ToolbarLayout& layout) {
   // Band 3 starts a row of its own unless the layout has exactly one row.
   frame_->removeToolBarBreak(bars_[2]);
   if (layout.rows != 1) frame_->insertToolBarBreak(bars_[2]);
-  for (std::size_t i = 0; i < 4; ++i) {
-    bars_[i]->setMinimumWidth(TwipsToPixels(layout.widthTwips[i]));
-    SetBandVisible(static_cast<int>(i + 1), layout.visible[i]);
-  }
+  // A band is as wide as its buttons and the last band of a row takes what
+  // is left, so the stored widths are not imposed: as minimum widths, those
+  // of a maximized frame made the next frame as wide as the screen, and
+  // narrower widths would hide buttons behind a chevron in a row with room.
+  for (std::size_t i = 0; i < 4; ++i) SetBandVisible(static_cast<int>(i + 1), layout.visible[i]);
 }
 
 ToolbarLayout FrameToolbars::Current() const {
@@ -89,12 +90,24 @@ ToolbarLayout FrameToolbars::Current() const {
   std::set<int> rows;
   for (std::size_t i = 0; i < 4; ++i) {
     layout.visible[i] = visible_[i];
-    const int width = bars_[i]->isVisible() ? bars_[i]->width() : bars_[i]->minimumWidth();
-    layout.widthTwips[i] = PixelsToTwips(width);
+    // The width the band's buttons take, not the stretch the last band of a
+    // row is given.
+    layout.widthTwips[i] = PixelsToTwips(bars_[i]->sizeHint().width());
     if (bars_[i]->isVisible()) rows.insert(bars_[i]->geometry().top());
   }
   layout.rows = rows.empty() ? 1 : static_cast<int>(rows.size());
   return layout;
+}
+
+bool FrameToolbars::HidesButtons(int band) const {
+  const QToolBar* bar = Band(band);
+  if (bar == nullptr || !bar->isVisible()) return false;
+  // The chevron is the toolbar's extension button, shown only when some
+  // buttons do not fit.
+  for (const QToolButton* button : bar->findChildren<QToolButton*>(Qt::FindDirectChildrenOnly)) {
+    if (button->objectName() == QLatin1String("qt_toolbar_ext_button")) return button->isVisible();
+  }
+  return false;
 }
 
 void FrameToolbars::SetBandVisible(int band, bool visible) {

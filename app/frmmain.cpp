@@ -1,5 +1,6 @@
 #include "app/frmmain.h"
 
+#include <algorithm>
 #include <cstdio>
 
 #include <QAction>
@@ -9,13 +10,17 @@
 #include <QFileInfo>
 #include <QMdiArea>
 #include <QMdiSubWindow>
+#include <QMenu>
+#include <QScreen>
 #include <QTimer>
 
+#include "app/framegeometry.h"
 #include "app/framemenus.h"
 #include "app/framestatusbar.h"
 #include "app/frametoolbars.h"
 #include "app/graphchildadapter.h"
 #include "app/statuspanels.h"
+#include "app/tilegrid.h"
 #include "app/toolbarlayout.h"
 #include "app/toolicons.h"
 #include "graph/examplecatalogue.h"
@@ -27,6 +32,11 @@
 
 namespace velmora::app {
 namespace {
+
+// The frame's size at a first start, and the smallest a graph window gets.
+constexpr int kStartWidth = 1024;
+constexpr int kStartHeight = 720;
+const QSize kSmallestGraphWindow(160, 120);
 
 std::string HistoryPath(const std::string& given) {
   return given.empty() ? graph::HistoryLog::DefaultPath() : given;
@@ -70,7 +80,7 @@ void FrmMain::BuildFrame() {
   toolbars_ = new FrameToolbars(this);
   status_ = new FrameStatusBar(this);
   setStatusBar(status_);
-  resize(1024, 720);
+  resize(kStartWidth, kStartHeight);
 
   connect(menus_, &FrameMenus::CommandChosen, this, &FrmMain::Run);
   connect(menus_, &FrameMenus::RecentChosen, this, &FrmMain::ChooseRecent);
@@ -116,8 +126,8 @@ void FrmMain::Run(Command command) {
     case Command::ViewBand2: ToggleBand(2); break;
     case Command::ViewBand3: ToggleBand(3); break;
     case Command::ViewBand4: ToggleBand(4); break;
-    case Command::WindowCascade: area_->cascadeSubWindows(); break;
-    case Command::WindowTile: area_->tileSubWindows(); break;
+    case Command::WindowCascade: Cascade(); break;
+    case Command::WindowTile: Tile(); break;
     case Command::HelpContents:
       OpenHelp(QDir(services_.programFolder).filePath(QString::fromUtf8(kHelpFile.data())));
       break;
@@ -139,6 +149,48 @@ void FrmMain::Run(Command command) {
 
 void FrmMain::NewGraphWindow() { windows_.NewGraphWindow(); }
 
+void FrmMain::ShowAsLastClosed() {
+  if (!RestoreFrameGeometry(*services_.settings, *this)) {
+    // A first start: the default size, within the screen.
+    const QRect screen = this->screen()->availableGeometry();
+    resize(std::min(kStartWidth, screen.width()), std::min(kStartHeight, screen.height()));
+  }
+  show();
+}
+
+void FrmMain::Tile() {
+  QMdiSubWindow* active = area_->currentSubWindow();
+  std::vector<QMdiSubWindow*> subs;
+  for (QMdiSubWindow* sub : area_->subWindowList(QMdiArea::CreationOrder)) {
+    if (sub->isHidden() && !sub->isMinimized()) continue;  // closing
+    subs.push_back(sub);
+  }
+  // Maximized windows first: while one is maximized, a window restored
+  // from an icon would come back maximized too.
+  for (QMdiSubWindow* sub : subs) {
+    if (sub->isMaximized()) sub->showNormal();
+  }
+  for (QMdiSubWindow* sub : subs) {
+    if (sub->isMinimized()) sub->showNormal();
+  }
+  // The whole inside of the area: once every window fits it, the scroll
+  // bars go.
+  const QSize domain = area_->contentsRect().size();
+  const std::vector<TileCell> cells =
+      TileGrid(static_cast<int>(subs.size()), domain.width(), domain.height());
+  for (std::size_t i = 0; i < cells.size(); ++i) {
+    const TileCell& cell = cells[i];
+    subs[i]->setGeometry(cell.x, cell.y, cell.width, cell.height);
+  }
+  if (active != nullptr) area_->setActiveSubWindow(active);
+}
+
+void FrmMain::Cascade() {
+  QMdiSubWindow* active = area_->currentSubWindow();
+  area_->cascadeSubWindows();
+  if (active != nullptr && area_->currentSubWindow() != active) area_->setActiveSubWindow(active);
+}
+
 void FrmMain::Exit() {
   close();
   // The program ends at once, whatever other windows are open.
@@ -157,6 +209,9 @@ void FrmMain::CreateGraphWindow(const std::string& caption) {
   services.activeWindow = this;
   services.frame = this;
   auto* window = new graph_qt::FrmFunc(services);
+  // Below its comfortable size the window still works (its controls then
+  // overlap), so that Window > Tile can fit twenty windows into the area.
+  window->setMinimumSize(kSmallestGraphWindow);
   const QString tag = QString::fromStdString(caption);
   window->setWindowTitle(tag);
   children_.push_back({window, tag});
@@ -174,6 +229,15 @@ void FrmMain::CreateGraphWindow(const std::string& caption) {
   });
   QMdiSubWindow* sub = area_->addSubWindow(window);
   sub->setWindowIcon(ProgramIcon());
+  sub->setMinimumSize(kSmallestGraphWindow);
+  // Ctrl+F4 is File > Close: the sub-window's own menu gives it up, or the
+  // key would be ambiguous and close nothing.
+  if (QMenu* own = sub->systemMenu()) {
+    for (QAction* action : own->actions()) {
+      QList<QKeySequence> keys = action->shortcuts();
+      if (keys.removeAll(QKeySequence(Qt::CTRL | Qt::Key_F4)) > 0) action->setShortcuts(keys);
+    }
+  }
   sub->show();
   area_->setActiveSubWindow(sub);
 }
@@ -273,6 +337,17 @@ void FrmMain::UpdateStatus() {
   const FrameView view = View();
   menus_->Refresh(view, recent_);
   toolbars_->Refresh(view);
+  emit StateChanged();
+}
+
+void FrmMain::changeEvent(QEvent* event) {
+  QMainWindow::changeEvent(event);
+  if (event->type() == QEvent::WindowStateChange) emit StateChanged();
+}
+
+void FrmMain::resizeEvent(QResizeEvent* event) {
+  QMainWindow::resizeEvent(event);
+  emit StateChanged();
 }
 
 void FrmMain::MarkFunctionType(int /*type*/) {
@@ -326,7 +401,11 @@ void FrmMain::ToggleBand(int band) { toolbars_->SetBandVisible(band, !toolbars_-
 void FrmMain::OpenHelp(const QString& target) {
   if (services_.shell == nullptr || target.isEmpty()) return;
   const platform::ShellResult result = platform::ShellOpen(*services_.shell, target.toStdString());
-  if (!result.ok) services_.messages->Show(result.description, "Velmora", platform::MsgIcon::Exclamation);
+  // The message names the file, so the user knows what to look for.
+  if (!result.ok) {
+    services_.messages->Show(result.description + "\r\n" + QDir::toNativeSeparators(target).toStdString(),
+                             "Velmora", platform::MsgIcon::Exclamation);
+  }
 }
 
 void FrmMain::About() {
@@ -335,8 +414,10 @@ void FrmMain::About() {
 }
 
 void FrmMain::closeEvent(QCloseEvent* event) {
-  // The toolbar layout is kept only when the frame closes maximized.
+  // The toolbar layout is kept only when the frame closes maximized; the
+  // frame's own place, size and state at every close.
   if (isMaximized()) SaveToolbars(*services_.settings, toolbars_->Current());
+  SaveFrameGeometry(*services_.settings, *this);
   // A running draw stops at its next sample; nothing else is asked.
   for (graph_qt::FrmFunc* window : GraphWindows()) window->Stop();
   event->accept();

@@ -74,9 +74,19 @@ class FrmMain final : public QMainWindow,
 
   // Runs a menu or toolbar command and refreshes the frame.
   void Run(Command command);
+  // Shows the frame where and as it was when it last closed (place, size,
+  // maximized), or at its default size on a first start.
+  void ShowAsLastClosed();
+
   // The frame's own parts of the commands.
   void NewGraphWindow();
   void Exit();
+  // Window > Tile: every open window side by side, fitted into the area
+  // (TileGrid), the active one staying active. A window may get smaller
+  // than its controls need; it repaints at its new size.
+  void Tile();
+  // Window > Cascade, the active window staying active.
+  void Cascade();
 
   // The active graph window, or null.
   graph_qt::FrmFunc* ActiveGraphWindow() const;
@@ -102,8 +112,15 @@ class FrmMain final : public QMainWindow,
   // ---- expr::ActiveWindow ----------------------------------------------------------
   expr::GraphFields* ActiveGraph() override;
 
+ signals:
+  // After every refresh of the frame (UpdateStatus), resize and change of
+  // window state: for the state probe of the test scripts.
+  void StateChanged();
+
  protected:
   void closeEvent(QCloseEvent* event) override;
+  void changeEvent(QEvent* event) override;
+  void resizeEvent(QResizeEvent* event) override;
   // The bands are shown and hidden from the View menu only.
   QMenu* createPopupMenu() override { return nullptr; }
 

@@ -8,7 +8,9 @@
 //                              written to standard error and the program ends;
 //   VELMORA_SCREENSHOTS=DIR    the frame with three example windows and the
 //                              Plotting Options dialog are saved as PNG files
-//                              into DIR, then the program ends.
+//                              into DIR, then the program ends;
+//   VELMORA_STATE_PROBE=1      every change of the frame's state writes one
+//                              "state: ..." line (StateLine) to standard error.
 #include <cstdio>
 #include <memory>
 
@@ -20,6 +22,7 @@
 #include "app/frmmain.h"
 #include "app/screenshots.h"
 #include "app/singleinstance.h"
+#include "app/stateprobe.h"
 #include "app/toolicons.h"
 #include "platform/printingmessagebox.h"
 #include "platform/qt/qtcolordialog.h"
@@ -84,7 +87,25 @@ int main(int argc, char** argv) {
   services.readMePath = ReadMePath();
 
   velmora::app::FrmMain frame(services);
-  frame.show();
+  if (qEnvironmentVariable("VELMORA_STATE_PROBE") == QLatin1String("1")) {
+    // Written once the event that changed the state is done (a layout
+    // settles after its resize), and only when the line differs.
+    auto pending = std::make_shared<bool>(false);
+    auto last = std::make_shared<QString>();
+    QObject::connect(&frame, &velmora::app::FrmMain::StateChanged, &frame, [&frame, pending, last] {
+      if (*pending) return;
+      *pending = true;
+      QTimer::singleShot(0, &frame, [&frame, pending, last] {
+        *pending = false;
+        const QString line = velmora::app::StateLine(frame);
+        if (line == *last) return;
+        *last = line;
+        std::fprintf(stderr, "%s\n", line.toLocal8Bit().constData());
+        std::fflush(stderr);
+      });
+    });
+  }
+  frame.ShowAsLastClosed();
   QStringList arguments = QCoreApplication::arguments();
   arguments.removeFirst();
   frame.Load(arguments);

@@ -26,7 +26,8 @@ constexpr std::array kPrint{
 
 constexpr std::array kFile{
     MenuItem{"mnuFile", 0, "&New", "Ctrl+N", C::New, E::Always},
-    MenuItem{"mnuFile", 1, "&Close", "", C::Close, E::NeedsWindow},
+    // Ctrl+F4 closes the active child, as in every multiple-document frame.
+    MenuItem{"mnuFile", 1, "&Close", "Ctrl+F4", C::Close, E::NeedsWindow},
     Sep("mnuFile", 2),
     MenuItem{"mnuFile", 3, "&Draw Function", "F5", C::DrawFunction, E::NeedsWindow},
     MenuItem{"mnuFile", 4, "Draw &Tangent && Normal...", "", C::DrawTangent, E::NotBuilt},

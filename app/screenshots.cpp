@@ -40,9 +40,9 @@ int TakeScreenshots(FrmMain& frame, const QString& folder) {
   dir.mkpath(QStringLiteral("."));
   frame.resize(1440, 1000);
   Settle();
-  // Three windows side by side, each drawn after the tiling has sized it.
+  // Three windows tiled, each drawn after the tiling has sized it.
   while (frame.Windows().WindowCount() < 3) frame.NewGraphWindow();
-  frame.Area()->tileSubWindows();
+  frame.Tile();
   Settle();
   for (graph_qt::FrmFunc* window : frame.GraphWindows()) window->SettleSize();
   const auto windows = frame.GraphWindows();

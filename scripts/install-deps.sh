@@ -11,7 +11,7 @@ packages=(
   libgtest-dev libgmock-dev libbenchmark-dev
   libmuparser-dev libeigen3-dev
   clang libclang-rt-14-dev clang-format
-  xvfb xauth x11-utils
+  xvfb xauth x11-utils openbox xdotool
   fonts-liberation fonts-dejavu-core
   python3-numpy
 )

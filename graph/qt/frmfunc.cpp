@@ -3,6 +3,7 @@
 #include <chrono>
 #include <functional>
 
+#include <QAbstractItemView>
 #include <QApplication>
 #include <QClipboard>
 #include <QCloseEvent>
@@ -242,6 +243,13 @@ void FrmFunc::ConnectWidgets() {
   connect(txtX_->lineEdit(), &QLineEdit::textEdited, this, [this](const QString& text) {
     if (!syncing_ && !logic_->Drawing) logic_->txtX.Text = S(text);
   });
+  // Only a choice made in the open list is the list's click. The editable
+  // box also reports `activated` when editing ends (the focus leaving for
+  // another window, a menu opening) on a text that matches a list entry;
+  // that must never draw. The choice is seen on the list itself, before the
+  // box closes it and reports it.
+  txtY_->view()->installEventFilter(this);
+  txtY_->view()->viewport()->installEventFilter(this);
   connect(txtY_, &QComboBox::activated, this, &FrmFunc::ListPicked);
   connect(txtX_, &QComboBox::activated, this, [this](int index) {
     if (syncing_ || logic_->Drawing || index < 0) return;
@@ -259,6 +267,21 @@ void FrmFunc::ConnectWidgets() {
 }
 
 bool FrmFunc::eventFilter(QObject* watched, QEvent* event) {
+  QAbstractItemView* list = txtY_->view();
+  if ((watched == list || watched == list->viewport()) && list->isVisible()) {
+    // The box takes Enter for a choice already at its shortcut override.
+    const bool key = event->type() == QEvent::KeyPress || event->type() == QEvent::ShortcutOverride;
+    const bool choice = event->type() == QEvent::MouseButtonRelease ||
+                        (key && (static_cast<QKeyEvent*>(event)->key() == Qt::Key_Return ||
+                                 static_cast<QKeyEvent*>(event)->key() == Qt::Key_Enter));
+    if (choice) {
+      // The box reports the choice while this event is handled; a release
+      // or key it does not take for a choice is forgotten afterwards.
+      listChoice_ = true;
+      QTimer::singleShot(0, this, [this] { listChoice_ = false; });
+    }
+    return QWidget::eventFilter(watched, event);
+  }
   const bool inY = watched == txtY_ || watched == txtY_->lineEdit();
   const bool inX = watched == txtX_ || watched == txtX_->lineEdit();
   if ((inY || inX) && event->type() == QEvent::KeyPress) {
@@ -484,6 +507,13 @@ void FrmFunc::ListPicked(int index) {
     SyncFromLogic();
     return;
   }
+  if (!listChoice_) {
+    // Editing ended on a text of the list, or an arrow key stepped through
+    // it: the box shows that text, and nothing is drawn.
+    logic_->txtY.Text = S(txtY_->currentText());
+    return;
+  }
+  listChoice_ = false;
   logic_->txtY.Text = S(txtY_->itemText(index));
   logic_->txtY_Click();
   Done();

@@ -220,6 +220,7 @@ class FrmFunc : public QWidget, private graph::GraphHost {
   bool progressDirty_ = false;
   bool syncing_ = false;  // widgets being set from the logic
   bool closePending_ = false;
+  bool listChoice_ = false;  // a choice is being made in txtY's open list
   std::string shownHistory_;
 };
 

@@ -18,6 +18,17 @@
 
 namespace velmora::testing {
 
+// A desktop that opens nothing: every target gets the result number given.
+struct ScriptedShell final : platform::ShellLauncher {
+  int Execute(const std::string& file, const std::string& /*parameters*/, const std::string& /*directory*/,
+              const std::string& /*verb*/, bool /*runAsProgram*/) override {
+    opened.push_back(file);
+    return result;
+  }
+  int result = 2;  // file not found
+  std::vector<std::string> opened;
+};
+
 // A frame on a settings file and a history file in a temporary folder, with
 // recording message and input boxes: a box nobody scripted fails the test
 // instead of waiting for a click.
@@ -27,17 +38,34 @@ struct FrameFixture {
   QString IniPath() const { return folder.filePath(QStringLiteral("Velmora.ini")); }
 
   app::FrmMain& Start(bool maximized = false) {
-    app::FrameServices services;
-    services.settings = settings.get();
-    services.messages = &messages;
-    services.input = &input;
-    services.historyPath = folder.filePath(QStringLiteral("GraphLog.txt")).toStdString();
-    frame = std::make_unique<app::FrmMain>(services);
+    Make();
     if (maximized) {
       frame->showMaximized();
     } else {
       frame->show();
     }
+    return Loaded();
+  }
+
+  // Starts as the program does: the frame where and as it last closed.
+  app::FrmMain& StartAsLastClosed() {
+    Make();
+    frame->ShowAsLastClosed();
+    return Loaded();
+  }
+
+  void Make() {
+    app::FrameServices services;
+    services.settings = settings.get();
+    services.messages = &messages;
+    services.input = &input;
+    services.shell = &shell;
+    services.readMePath = folder.filePath(QStringLiteral("missing/README.md"));
+    services.historyPath = folder.filePath(QStringLiteral("GraphLog.txt")).toStdString();
+    frame = std::make_unique<app::FrmMain>(services);
+  }
+
+  app::FrmMain& Loaded() {
     frame->Load({});
     QApplication::setActiveWindow(frame.get());
     QApplication::processEvents();
@@ -87,6 +115,7 @@ struct FrameFixture {
   std::unique_ptr<qtplatform::QtSettingsStore> settings;
   RecordingMessageBox messages;
   ScriptedInputBox input;
+  ScriptedShell shell;
   std::unique_ptr<app::FrmMain> frame;
 };
 

@@ -253,19 +253,6 @@ TEST_F(CommandsTest, AFunctionNameFromC1GoesToTheCaret) {
   EXPECT_EQ(window->C1()->count(), 40);
 }
 
-TEST_F(CommandsTest, PickingFromTheListReplaysTheFunction) {
-  Make();
-  TypeAndEnter(QStringLiteral("SinX"));
-  TypeAndEnter(QStringLiteral("CosX"));
-  ASSERT_EQ(window->txtY()->count(), 2);
-  window->ClearScreen();
-  ASSERT_EQ(CountPixels(Picture(), kGraphColour), 0);
-  emit window->txtY()->activated(0);
-  EXPECT_EQ(window->txtY()->currentText(), QStringLiteral("SinX"));
-  EXPECT_GT(CountPixels(Picture(), kGraphColour), 500);
-  EXPECT_EQ(Logic().KolkoFunkc, 2);
-}
-
 TEST_F(CommandsTest, AClosingWindowTellsTheFrame) {
   Make();
   window->close();
