@@ -31,7 +31,7 @@ std::string ElideMiddle(std::string_view text, std::size_t limit) {
   const std::size_t tail = kept / 2;
   std::string elided(text.substr(0, starts[head]));
   elided += kEllipsis;
-  elided += text.substr(starts[starts.size() - tail]);
+  if (tail > 0) elided += text.substr(starts[starts.size() - tail]);
   return elided;
 }
 
