@@ -17,9 +17,9 @@
 #include "graph/qt/frmfunc.h"
 #include "graph/qt/pdrawview.h"
 #include "graph/qt/qimagesurface.h"
-#include "platform/memorysettingsstore.h"
 #include "platform/recentlist.h"
 #include "tests/graph/dialogfakes.h"
+#include "tests/support/fakesettingsstore.h"
 #include "tests/support/recordingmessagebox.h"
 #include "tests/support/scriptedinputbox.h"
 
@@ -94,7 +94,7 @@ class FrmFuncTest : public ::testing::Test {
   }
 
   QTemporaryDir dir;
-  platform::MemorySettingsStore settings;
+  velmora::testing::FakeSettingsStore settings;
   RecordingMessageBox messages;
   ScriptedInputBox input;
   ScriptedColorDialog colours;
