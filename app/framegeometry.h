@@ -2,6 +2,7 @@
 
 #include <string_view>
 
+#include "platform/settingskeys.h"
 #include "platform/settingsstore.h"
 
 class QWidget;
@@ -13,8 +14,8 @@ namespace velmora::app {
 // window (its normal place and size, whether it was maximized, the screen)
 // as base64 text. Written at every close of the frame, whatever its state;
 // the toolbar layout keeps its own rule (kept only from a maximized frame).
-inline constexpr std::string_view kFrameSection = "Frame";
-inline constexpr std::string_view kFrameGeometry = "Geometry";
+inline constexpr std::string_view kFrameSection = platform::keys::kFrame;
+inline constexpr std::string_view kFrameGeometry = platform::keys::frame::kGeometry;
 
 void SaveFrameGeometry(platform::SettingsStore& store, const QWidget& frame);
 

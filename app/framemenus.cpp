@@ -6,17 +6,18 @@
 #include <QMenuBar>
 
 #include "app/menucaption.h"
+#include "platform/qt/qtstring.h"
 
 namespace velmora::app {
 
 QString ControlName(std::string_view name, int index) {
-  QString text = QString::fromUtf8(name.data(), static_cast<qsizetype>(name.size()));
+  QString text = qtplatform::ToQString(name);
   if (index >= 0) text += QStringLiteral("(%1)").arg(index);
   return text;
 }
 
 QString PlainCaption(const std::string& text) {
-  QString caption = QString::fromStdString(text);
+  QString caption = qtplatform::ToQString(text);
   caption.replace(QLatin1Char('&'), QStringLiteral("&&"));
   return caption;
 }
@@ -30,9 +31,8 @@ void SetLongCaption(QAction* action, const std::string& text) {
 
 namespace {
 
-QString ToQt(std::string_view text) {
-  return QString::fromUtf8(text.data(), static_cast<qsizetype>(text.size()));
-}
+// The shared converter under this file's short name.
+constexpr auto& ToQt = qtplatform::ToQString;
 
 }  // namespace
 

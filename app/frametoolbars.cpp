@@ -9,13 +9,13 @@
 #include <QToolButton>
 
 #include "app/toolicons.h"
+#include "platform/qt/qtstring.h"
 
 namespace velmora::app {
 namespace {
 
-QString ToQt(std::string_view text) {
-  return QString::fromUtf8(text.data(), static_cast<qsizetype>(text.size()));
-}
+// The shared converter under this file's short name.
+constexpr auto& ToQt = qtplatform::ToQString;
 
 constexpr int kIconSize = 24;
 

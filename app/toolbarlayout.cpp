@@ -47,28 +47,32 @@ std::optional<int> ReadInt(const std::string& text) {
   }
 }
 
-std::string BandKey(std::size_t band) { return "TB" + std::to_string(band + 1); }
+std::string BandKey(std::size_t band) {
+  return std::string(platform::keys::BandName(static_cast<int>(band) + 1));
+}
 
 }  // namespace
 
 ToolbarLayout LoadToolbars(platform::SettingsStore& store) {
   ToolbarLayout layout;
-  if (const auto rows = ReadInt(platform::ReadSetting(store, "TB", "Rows"))) layout.rows = *rows;
+  if (const auto rows = ReadInt(platform::ReadSetting(store, platform::keys::kTB, platform::keys::tb::kRows)))
+    layout.rows = *rows;
   for (std::size_t band = 0; band < 4; ++band) {
     const std::string key = BandKey(band);
-    if (const auto shown = ReadBool(platform::ReadSetting(store, "TB", key))) layout.visible[band] = *shown;
-    if (const auto width = ReadInt(platform::ReadSetting(store, "TBW", key)))
+    if (const auto shown = ReadBool(platform::ReadSetting(store, platform::keys::kTB, key)))
+      layout.visible[band] = *shown;
+    if (const auto width = ReadInt(platform::ReadSetting(store, platform::keys::kTBW, key)))
       layout.widthTwips[band] = *width;
   }
   return layout;
 }
 
 void SaveToolbars(platform::SettingsStore& store, const ToolbarLayout& layout) {
-  platform::SetRegValue(store, "TB", "Rows", layout.rows);
+  platform::SetRegValue(store, platform::keys::kTB, platform::keys::tb::kRows, layout.rows);
   for (std::size_t band = 0; band < 4; ++band) {
     const std::string key = BandKey(band);
-    platform::SetRegValue(store, "TB", key, layout.visible[band] ? "True" : "False");
-    platform::SetRegValue(store, "TBW", key, layout.widthTwips[band]);
+    platform::SetRegValue(store, platform::keys::kTB, key, layout.visible[band] ? "True" : "False");
+    platform::SetRegValue(store, platform::keys::kTBW, key, layout.widthTwips[band]);
   }
 }
 

@@ -13,7 +13,8 @@
 #include "expr/numtext.h"
 #include "graph/graphwindow.h"
 #include "graph/historylog.h"
-#include "platform/inisettingsstore.h"
+#include "platform/qt/qtsettingsstore.h"
+#include "platform/qt/qtstring.h"
 #include "platform/recentlist.h"
 
 namespace velmora::cli {
@@ -148,7 +149,11 @@ int RunPlot(const std::vector<std::string>& args, std::istream& /*in*/, std::ost
     return 2;
   }
 
-  platform::IniSettingsStore settings(o.settings.value_or(platform::UserSettingsPath()));
+  // The user's file, as the program uses it, unless --settings names another.
+  auto settingsStore = o.settings
+                           ? std::make_unique<qtplatform::QtSettingsStore>(qtplatform::ToQString(*o.settings))
+                           : std::make_unique<qtplatform::QtSettingsStore>();
+  qtplatform::QtSettingsStore& settings = *settingsStore;
   graph::HistoryLog history(o.history.value_or(graph::HistoryLog::DefaultPath()));
   StreamMessageBox messages(out, "message: ");
   QueuedInputBox input;

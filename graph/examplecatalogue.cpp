@@ -204,7 +204,8 @@ void MoveRightWithoutAsking(GraphWindow& window, platform::SettingsStore& settin
   window.MovedLeft = false;
   double shift = 0;
   try {
-    const double gridStep = expr::TextToNumber(platform::ReadSetting(settings, "Grid", "ScaleX"));
+    const double gridStep = expr::TextToNumber(
+        platform::ReadSetting(settings, platform::keys::kGrid, platform::keys::grid::kScaleX));
     shift = expr::RoundTo(expr::TextToNumber(answer) * gridStep, 1);
   } catch (const expr::Fault&) {
   }

@@ -3,13 +3,14 @@
 // behind (history, recent line, lists, table).
 #include <cmath>
 
+#include "base/asciicase.h"
 #include "expr/fault.h"
 #include "expr/functionlibrary.h"
 #include "expr/normalise.h"
 #include "expr/numtext.h"
 #include "graph/graphwindow.h"
+#include "graph/settingnumber.h"
 #include "platform/settingskeys.h"
-#include "base/asciicase.h"
 
 namespace velmora::graph {
 namespace {
@@ -95,7 +96,7 @@ bool GraphWindow::CheckSyntax(const std::string& cleaned) {
 }
 
 void GraphWindow::ChooseColour() {
-  if (Grid("Rnd") == 1) {
+  if (Grid(platform::keys::grid::kRnd) == 1) {
     // Red first; the generator is never seeded here, so a fresh start
     // repeats the same colours.
     const int red = static_cast<int>(std::floor(expr::NextRandom(1) * 255));
@@ -103,7 +104,8 @@ void GraphWindow::ChooseColour() {
     const int blue = static_cast<int>(std::floor(expr::NextRandom(1) * 255));
     Graph_Clr = Rgb(red, green, blue);
   } else {
-    Graph_Clr = static_cast<Colour>(platform::ReadSettingNumber(*services_.settings, "Boje", "Grafik"));
+    Graph_Clr = static_cast<Colour>(
+        ReadSettingNumber(*services_.settings, platform::keys::kBoje, platform::keys::boje::kGrafik));
     lblBoja.BackColor = Graph_Clr;
   }
 }
@@ -162,7 +164,7 @@ void GraphWindow::Draw(const PlotProcedure& procedure) {
   // 17. Count and lists.
   if (procedure.remember) Remember(polar);
   // 18-19.
-  lblPointtab.ForeColor = Grid("Rnd") == 1 ? Graph_Clr : 0;
+  lblPointtab.ForeColor = Grid(platform::keys::grid::kRnd) == 1 ? Graph_Clr : 0;
   Drawing = false;
   Progress(lblPerCent.Caption, false);
   Plotted = true;
@@ -200,7 +202,7 @@ void GraphWindow::Remember(bool polar) {
 
 void GraphWindow::RedrawFunc() {
   if (Drawing) return;
-  if (Grid("Autored") != 1) {
+  if (Grid(platform::keys::grid::kAutored) != 1) {
     KolkoFunkc = 0;
     return;
   }
@@ -236,7 +238,7 @@ void GraphWindow::txtY_Click() {
   }
   if (services_.host != nullptr) services_.host->RefreshFrame();
   lblPointtab.ForeColor = 0;
-  if (Grid("Autored") == 1) {
+  if (Grid(platform::keys::grid::kAutored) == 1) {
     if (optFunkcije == kPolar) {
       CrtajPolarAuto();
     } else {

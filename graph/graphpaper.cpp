@@ -9,7 +9,8 @@
 namespace velmora::graph {
 namespace {
 
-constexpr std::string_view kGrid = "Grid";
+namespace grid = platform::keys::grid;
+
 constexpr std::string_view kStandardFont = "MS Sans Serif";
 // Pi as the paper spells it: the grid of the Trig paper steps by its text
 // over 4, the labels by its value rounded to one decimal.
@@ -33,9 +34,11 @@ std::string GraphPaper::PrintedNumber(double value) {
 }
 
 double GraphPaper::Number(std::string_view name) {
-  return platform::ReadSettingNumber(settings_, kGrid, name);
+  return ReadSettingNumber(settings_, platform::keys::kGrid, name);
 }
-std::string GraphPaper::Text(std::string_view name) { return platform::ReadSetting(settings_, kGrid, name); }
+std::string GraphPaper::Text(std::string_view name) {
+  return platform::ReadSetting(settings_, platform::keys::kGrid, name);
+}
 
 void GraphPaper::StandardFont() {
   surface_.SetFontName(kStandardFont);
@@ -56,28 +59,28 @@ bool GraphPaper::DrawLines(const PaperView& v) {
   // 1. The standard font.
   StandardFont();
   // 2. Assigned axes draw their text transparent.
-  const bool ozna = Number("Ozna") == 1;
+  const bool ozna = Number(grid::kOzna) == 1;
   if (ozna) surface_.SetFontTransparent(true);
   // 3. The grid's pen.
-  const int dashStyle = Number("Dash") == 1 ? kDot : kSolid;
+  const int dashStyle = Number(grid::kDash) == 1 ? kDot : kSolid;
   surface_.SetDrawStyle(dashStyle);
   // 4. The steps, in user units.
   double stepX = 0;
   double stepY = 0;
-  if (Number("Trigo") == 1) {
+  if (Number(grid::kTrigo) == 1) {
     stepX = expr::TextToNumber(expr::NumberToText(kPi / 4));
     stepY = 1;
   } else {
-    stepX = expr::TextToNumber(Text("ScaleX"));
-    stepY = expr::TextToNumber(Text("ScaleY"));
+    stepX = expr::TextToNumber(Text(grid::kScaleX));
+    stepY = expr::TextToNumber(Text(grid::kScaleY));
   }
   const double px = stepX * v.Zoom;
   const double py = stepY * v.Zoom;
   // 5-7. The paper and the axes. Every loop starts at the axis, so a line
   // always passes through the origin.
-  if (Number("Axes") == 1) {
+  if (Number(grid::kAxes) == 1) {
     surface_.SetDrawStyle(kSolid);
-  } else if (Number("PolarP") == 1) {
+  } else if (Number(grid::kPolarP) == 1) {
     ForStep(px, 2 * h, px, [&](double r) {
       surface_.Circle(v.CenterX, v.CenterY, r, v.GridColor);
       return true;
@@ -92,7 +95,7 @@ bool GraphPaper::DrawLines(const PaperView& v) {
       }
     }
     surface_.SetDrawStyle(kSolid);
-  } else if (Number("Crte") == 1) {
+  } else if (Number(grid::kCrte) == 1) {
     surface_.SetDrawStyle(kSolid);
     const auto tickX = [&](double x) {
       surface_.Line(x, v.CenterY - 3, x, v.CenterY + 4, v.GridColor);
@@ -131,29 +134,29 @@ bool GraphPaper::DrawLines(const PaperView& v) {
     CrtajStrele(v);
   }
   // 10. The scale note.
-  if (Number("Skala") == 1) {
+  if (Number(grid::kSkala) == 1) {
     StandardFont();
     surface_.SetForeColor(v.AxesColor);
     surface_.SetCurrentX(8);
     surface_.SetCurrentY(h - 20);
-    surface_.Print("[" + Text("ScaleX1") + " , " + Text("ScaleY1") + "]");
+    surface_.Print("[" + Text(grid::kScaleX1) + " , " + Text(grid::kScaleY1) + "]");
   }
   return ozna;
 }
 
 void GraphPaper::CrtajBrojeve(const PaperView& v) {
   StandardFont();
-  if (Number("Trigo") == 1) {
+  if (Number(grid::kTrigo) == 1) {
     Drawtrigo(v);
     return;
   }
   const double w = surface_.ScaleWidth();
   const double h = surface_.ScaleHeight();
-  const double sx = expr::RoundTo(expr::TextToNumber(Text("ScaleX")), 1);
-  const double sy = expr::RoundTo(expr::TextToNumber(Text("ScaleY")), 1);
+  const double sx = expr::RoundTo(expr::TextToNumber(Text(grid::kScaleX)), 1);
+  const double sy = expr::RoundTo(expr::TextToNumber(Text(grid::kScaleY)), 1);
   const int n = Stride(v.Zoom);
-  surface_.SetForeColor(Number("BrojBoja") == 1 ? v.GridColor : v.AxesColor);
-  if (Number("BrojX") == 1) {
+  surface_.SetForeColor(Number(grid::kBrojBoja) == 1 ? v.GridColor : v.AxesColor);
+  if (Number(grid::kBrojX) == 1) {
     // The label counts strides; it does not multiply by the grid step.
     double label = 0;
     ForStep(v.CenterX, w, v.Zoom * n * sx, [&](double x) {
@@ -173,7 +176,7 @@ void GraphPaper::CrtajBrojeve(const PaperView& v) {
       return true;
     });
   }
-  if (Number("BrojY") == 1) {
+  if (Number(grid::kBrojY) == 1) {
     double label = 0;
     const auto print = [&](double y) {
       surface_.SetCurrentY(y);
@@ -204,8 +207,8 @@ void GraphPaper::Drawtrigo(const PaperView& v) {
   const double p = expr::RoundTo(kPi, 1);
   const double sy = expr::RoundTo(1, 1);
   const int n = v.Zoom >= 10 ? 1 : 2;
-  surface_.SetForeColor(Number("BrojBoja") == 1 ? v.GridColor : v.AxesColor);
-  const bool brojX = Number("BrojX") == 1;
+  surface_.SetForeColor(Number(grid::kBrojBoja) == 1 ? v.GridColor : v.AxesColor);
+  const bool brojX = Number(grid::kBrojX) == 1;
   const auto printAt = [&](double x, std::string_view text) {
     surface_.SetCurrentX(x);
     surface_.SetCurrentY(v.CenterY + 3);
@@ -256,7 +259,7 @@ void GraphPaper::Drawtrigo(const PaperView& v) {
       return true;
     });
   }
-  if (Number("BrojY") == 1) {
+  if (Number(grid::kBrojY) == 1) {
     const int ny = Stride(v.Zoom);
     double label = 0;
     const auto print = [&](double y) {

@@ -3,6 +3,7 @@
 #include <string>
 #include <string_view>
 
+#include "graph/settingnumber.h"
 #include "graph/surface.h"
 #include "platform/messagebox.h"
 #include "platform/settingsstore.h"

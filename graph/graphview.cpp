@@ -165,7 +165,8 @@ void GraphWindow::Move(std::string_view title, std::string_view tag, int axis, i
   // The answer counts grid steps of the X axis, whichever way the move goes.
   double shift = 0;
   ResumeNext([&] {
-    const double gridStep = expr::TextToNumber(platform::ReadSetting(*services_.settings, "Grid", "ScaleX"));
+    const double gridStep = expr::TextToNumber(
+        platform::ReadSetting(*services_.settings, platform::keys::kGrid, platform::keys::grid::kScaleX));
     shift = expr::RoundTo(expr::TextToNumber(answer) * gridStep, 1);
   });
   if (axis == 0) {

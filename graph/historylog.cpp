@@ -3,7 +3,7 @@
 #include <filesystem>
 #include <fstream>
 
-#include "platform/inisettingsstore.h"
+#include "platform/userfolders.h"
 
 namespace velmora::graph {
 

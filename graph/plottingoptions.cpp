@@ -3,42 +3,40 @@
 #include <cmath>
 
 #include "graph/graphwindow.h"
+#include "graph/settingnumber.h"
 #include "platform/settingskeys.h"
 
 namespace velmora::graph {
 namespace {
 
-constexpr std::string_view kSection = "Grid";
+constexpr std::string_view kSection = platform::keys::kGrid;
+namespace grid = platform::keys::grid;
 
 constexpr PlottingOptions::TextBox kTextBoxes[] = {
-    {"txtX", "X:", "ScaleX"},    // grid step in X
-    {"txtY", "Y:", "ScaleY"},    // grid step in Y
-    {"txtX1", "X:", "ScaleX1"},  // first number of the scale note
-    {"txtY1", "Y:", "ScaleY1"},  // second number of the scale note
+    {"txtX", "X:", grid::kScaleX},    // grid step in X
+    {"txtY", "Y:", grid::kScaleY},    // grid step in Y
+    {"txtX1", "X:", grid::kScaleX1},  // first number of the scale note
+    {"txtY1", "Y:", grid::kScaleY1},  // second number of the scale note
 };
 
 constexpr PlottingOptions::CheckBox kCheckBoxes[] = {
-    {1, "&Hide grid", "Axes", true},
-    {2, "&Assign axes ", "Ozna", true},
-    {3, "&Show grid ticks only", "Crte", true},
-    {4, "S&how grid scaling", "Skala", true},
-    {5, "&Randomize graph color", "Rnd", true},
-    {6, "A&utoRedraw functions", "Autored", true},
-    {7, "&Use polar graph paper", "PolarP", false},  // follows the Polar paper type
-    {8, "Show &X coordinates", "BrojX", true},
-    {9, "Show &Y coordinates", "BrojY", true},
-    {10, "&Use grid color for axes numbres", "BrojBoja", true},
-    {11, "", "Trigo", false},  // follows the Trig paper type
-    {12, "&Draw Grid with dashes", "Dash", true},
-    {13, "Draw graph  &frame while Copy/Print", "Ram", true},
+    {PlottingOptions::kCheckHideGrid, "&Hide grid", grid::kAxes, true},
+    {PlottingOptions::kCheckAssignAxes, "&Assign axes ", grid::kOzna, true},
+    {PlottingOptions::kCheckTicksOnly, "&Show grid ticks only", grid::kCrte, true},
+    {PlottingOptions::kCheckScaleNote, "S&how grid scaling", grid::kSkala, true},
+    {PlottingOptions::kCheckRandomColour, "&Randomize graph color", grid::kRnd, true},
+    {PlottingOptions::kCheckAutoRedraw, "A&utoRedraw functions", grid::kAutored, true},
+    // Follows the Polar paper type.
+    {PlottingOptions::kCheckPolarPaper, "&Use polar graph paper", grid::kPolarP, false},
+    {PlottingOptions::kCheckNumbersX, "Show &X coordinates", grid::kBrojX, true},
+    {PlottingOptions::kCheckNumbersY, "Show &Y coordinates", grid::kBrojY, true},
+    {PlottingOptions::kCheckGridColour, "&Use grid color for axes numbres", grid::kBrojBoja, true},
+    {PlottingOptions::kCheckTrigPaper, "", grid::kTrigo, false},  // follows the Trig paper type
+    {PlottingOptions::kCheckDashes, "&Draw Grid with dashes", grid::kDash, true},
+    {PlottingOptions::kCheckFrame, "Draw graph  &frame while Copy/Print", grid::kRam, true},
 };
 
 constexpr std::string_view kPaperCaptions[] = {"&Standard", "&Polar", "&Trig"};
-
-constexpr int kPolarPaper = 1;
-constexpr int kTrigPaper = 2;
-constexpr int kPolarCheck = 7;
-constexpr int kTrigCheck = 11;
 
 }  // namespace
 
@@ -55,15 +53,15 @@ void PlottingOptions::Load(platform::SettingsStore& settings) {
   // 0 ticks it.
   for (const auto& box : kCheckBoxes) {
     const double value =
-        platform::ReadSettingNumber(settings, kSection, box.key, platform::SettingReader::PlottingOptions);
+        ReadSettingNumber(settings, kSection, box.key, platform::SettingReader::PlottingOptions);
     SetCheck(box.number, std::fabs(value) != 0);
   }
-  Option2 = 0;
+  Option2 = kStandardPaper;
   EnableFromCheck1();
 }
 
 void PlottingOptions::EnableFromCheck1() {
-  const bool enabled = !Check(1);
+  const bool enabled = !Check(kCheckHideGrid);
   txtX1Enabled = enabled;
   txtY1Enabled = enabled;
   Check3Enabled = enabled;
@@ -73,7 +71,7 @@ void PlottingOptions::Check1Click() { EnableFromCheck1(); }
 
 void PlottingOptions::Check2Click(GraphWindow* active) {
   if (active == nullptr) return;
-  if (Check(2)) {
+  if (Check(kCheckAssignAxes)) {
     active->Check1 = true;
     active->pDraw().SetFontTransparent(true);
   } else {
@@ -86,8 +84,8 @@ void PlottingOptions::Check2Click(GraphWindow* active) {
 void PlottingOptions::Option2Click(int index) {
   if (index < 0 || index > kTrigPaper) return;
   Option2 = index;
-  SetCheck(kPolarCheck, index == kPolarPaper);
-  SetCheck(kTrigCheck, index == kTrigPaper);
+  SetCheck(kCheckPolarPaper, index == kPolarPaper);
+  SetCheck(kCheckTrigPaper, index == kTrigPaper);
 }
 
 void PlottingOptions::Reset() {
@@ -95,7 +93,7 @@ void PlottingOptions::Reset() {
   // false overlap warning of g++ 12.
   texts.fill(std::string(1, '1'));
   checks_.fill(false);
-  Option2Click(0);
+  Option2Click(kStandardPaper);
   EnableFromCheck1();
 }
 
@@ -109,9 +107,9 @@ void PlottingOptions::Apply(platform::SettingsStore& settings, platform::Message
   if (active == nullptr) return;
   // 2-3.
   active->pDraw().SetFontTransparent(true);
-  if (Check(2)) active->Check1 = true;
+  if (Check(kCheckAssignAxes)) active->Check1 = true;
   // 4-5.
-  if (platform::ReadSettingNumber(settings, kSection, "Autored") == 1) {
+  if (ReadSettingNumber(settings, kSection, grid::kAutored) == 1) {
     active->Clearwith();
     active->DrawLines();
     active->RedrawFunc();

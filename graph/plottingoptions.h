@@ -38,6 +38,24 @@ class PlottingOptions {
   };
   enum Text : int { kTxtX = 0, kTxtY = 1, kTxtX1 = 2, kTxtY1 = 3 };
   static constexpr int kChecks = 13;
+  // The check boxes by the number Check(n) takes, with the key each writes.
+  enum CheckNumber : int {
+    kCheckHideGrid = 1,      // Axes
+    kCheckAssignAxes = 2,    // Ozna
+    kCheckTicksOnly = 3,     // Crte
+    kCheckScaleNote = 4,     // Skala
+    kCheckRandomColour = 5,  // Rnd
+    kCheckAutoRedraw = 6,    // Autored
+    kCheckPolarPaper = 7,    // PolarP, hidden
+    kCheckNumbersX = 8,      // BrojX
+    kCheckNumbersY = 9,      // BrojY
+    kCheckGridColour = 10,   // BrojBoja
+    kCheckTrigPaper = 11,    // Trigo, hidden
+    kCheckDashes = 12,       // Dash
+    kCheckFrame = 13,        // Ram
+  };
+  // The paper types, the index of Option2.
+  enum Paper : int { kStandardPaper = 0, kPolarPaper = 1, kTrigPaper = 2 };
   static std::span<const TextBox> TextBoxes();
   static std::span<const CheckBox> CheckBoxes();
   // The paper types of Option2, index 0 to 2, and their captions.
@@ -48,7 +66,7 @@ class PlottingOptions {
   // Check(n) for n = 1 to 13.
   bool Check(int n) const { return checks_.at(static_cast<std::size_t>(n - 1)); }
   void SetCheck(int n, bool on) { checks_.at(static_cast<std::size_t>(n - 1)) = on; }
-  int Option2 = 0;  // paper type: 0 Standard, 1 Polar, 2 Trig
+  int Option2 = kStandardPaper;  // paper type (Paper)
   // "Hide grid" disables the scale note's boxes and "Show grid ticks only".
   bool txtX1Enabled = true;
   bool txtY1Enabled = true;

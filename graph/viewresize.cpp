@@ -3,6 +3,7 @@
 #include <cmath>
 
 #include "graph/graphwindow.h"
+#include "graph/settingnumber.h"
 #include "platform/settingskeys.h"
 
 namespace velmora::graph {
@@ -28,13 +29,15 @@ void ViewResize::Apply(GraphWindow& window, const Plan& plan) {
 
 bool ViewResize::RepaintWhenSettled(const GraphWindow& window, platform::SettingsStore& settings) {
   if (window.Drawing) return false;
-  return window.KolkoFunkc == 0 || platform::ReadSettingNumber(settings, "Grid", "Autored") == 1;
+  return window.KolkoFunkc == 0 ||
+         ReadSettingNumber(settings, platform::keys::kGrid, platform::keys::grid::kAutored) == 1;
 }
 
 void ViewResize::Repaint(GraphWindow& window, platform::SettingsStore& settings) {
   window.Clearwith();
   window.DrawLines();
-  if (window.KolkoFunkc > 0 && platform::ReadSettingNumber(settings, "Grid", "Autored") == 1)
+  if (window.KolkoFunkc > 0 &&
+      ReadSettingNumber(settings, platform::keys::kGrid, platform::keys::grid::kAutored) == 1)
     window.RedrawFunc();
 }
 

@@ -4,12 +4,13 @@
 #include <system_error>
 
 #include "graph/graphwindow.h"
+#include "graph/settingnumber.h"
 #include "platform/settingskeys.h"
 
 namespace velmora::graph {
 namespace {
 
-constexpr std::string_view kColours = "Boje";
+constexpr std::string_view kColours = platform::keys::kBoje;
 
 Colour DefaultColour(std::string_view key) {
   return static_cast<Colour>(std::stoul(std::string(platform::DefaultOf(kColours, key))));
@@ -67,11 +68,11 @@ bool WindowCommands::mnuBojeGraph() {
 
 void WindowCommands::mnuBojeDef() {
   if (w_.Drawing) return;
-  w_.pDraw().SetBackColor(DefaultColour("Pozadina"));
-  w_.Graph_Clr = DefaultColour("Grafik");
+  w_.pDraw().SetBackColor(DefaultColour(platform::keys::boje::kPozadina));
+  w_.Graph_Clr = DefaultColour(platform::keys::boje::kGrafik);
   w_.lblBoja.BackColor = w_.Graph_Clr;
-  w_.GridColor = DefaultColour("Grid");
-  w_.AxesColor = DefaultColour("Ose");
+  w_.GridColor = DefaultColour(platform::keys::boje::kGrid);
+  w_.AxesColor = DefaultColour(platform::keys::boje::kOse);
   RepaintPaper();
 }
 
@@ -79,10 +80,10 @@ void WindowCommands::Sacboje() {
   const auto store = [&](std::string_view key, Colour colour) {
     platform::SetRegValue(settings_, kColours, key, std::to_string(colour & 0xFFFFFF));
   };
-  store("Pozadina", w_.pDraw().BackColor());
-  store("Grafik", w_.lblBoja.BackColor);
-  store("Grid", w_.GridColor);
-  store("Ose", w_.AxesColor);
+  store(platform::keys::boje::kPozadina, w_.pDraw().BackColor());
+  store(platform::keys::boje::kGrafik, w_.lblBoja.BackColor);
+  store(platform::keys::boje::kGrid, w_.GridColor);
+  store(platform::keys::boje::kOse, w_.AxesColor);
 }
 
 void WindowCommands::ColourMenu(ColourEntry entry) {
@@ -133,7 +134,8 @@ void WindowCommands::mnuclhistory() {
 }
 
 bool WindowCommands::AskBeforeErasing() {
-  if (w_.KolkoFunkc > 0 && platform::ReadSettingNumber(settings_, "Grid", "Autored") == 0) {
+  if (w_.KolkoFunkc > 0 &&
+      ReadSettingNumber(settings_, platform::keys::kGrid, platform::keys::grid::kAutored) == 0) {
     const auto answer = messages_.Show(std::string(kClearGridQuestion), std::string(kClearGridTitle),
                                        platform::MsgIcon::None, platform::MsgButtons::OkCancel);
     if (answer != platform::MsgResult::Ok) return false;
@@ -144,13 +146,15 @@ bool WindowCommands::AskBeforeErasing() {
 void WindowCommands::ClearGrid() {
   if (w_.Drawing || !AskBeforeErasing()) return;
   w_.Clearwith();
-  if (platform::ReadSettingNumber(settings_, "Grid", "Autored") == 1) w_.RedrawFunc();
+  if (ReadSettingNumber(settings_, platform::keys::kGrid, platform::keys::grid::kAutored) == 1)
+    w_.RedrawFunc();
 }
 
 void WindowCommands::RedrawGrid() {
   if (w_.Drawing || !AskBeforeErasing()) return;
   w_.Redraw();
-  if (platform::ReadSettingNumber(settings_, "Grid", "Autored") == 1) w_.RedrawFunc();
+  if (ReadSettingNumber(settings_, platform::keys::kGrid, platform::keys::grid::kAutored) == 1)
+    w_.RedrawFunc();
 }
 
 void WindowCommands::ClearFju() {
@@ -187,6 +191,8 @@ bool WindowCommands::Sav1(const PictureWriter& write) {
   return false;
 }
 
-bool WindowCommands::FrameOnCopies() { return platform::ReadSettingNumber(settings_, "Grid", "Ram") == 1; }
+bool WindowCommands::FrameOnCopies() {
+  return ReadSettingNumber(settings_, platform::keys::kGrid, platform::keys::grid::kRam) == 1;
+}
 
 }  // namespace velmora::graph

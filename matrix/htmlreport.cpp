@@ -1,8 +1,8 @@
 #include "matrix/htmlreport.h"
 
 #include <array>
-#include <fstream>
 
+#include "base/atomicfile.h"
 #include "expr/fault.h"
 #include "expr/numtext.h"
 #include "matrix/matrixcontext.h"
@@ -207,10 +207,7 @@ std::string HtmlReport(const MatrixReport& report) {
 
 bool WriteHtmlReport(const std::filesystem::path& path, const MatrixReport& report,
                      platform::MessageBox& messages) {
-  const std::string text = HtmlReport(report);
-  std::ofstream out(path, std::ios::binary | std::ios::trunc);
-  if (out) out.write(text.data(), static_cast<std::streamsize>(text.size()));
-  if (!out) {
+  if (!base::WriteFileAtomically(path, HtmlReport(report))) {
     messages.Show("Path/File access error", kCalculatorTitle, platform::MsgIcon::Critical);
     return false;
   }

@@ -32,8 +32,9 @@ inline constexpr const char* kHtmlFilter = "HTML (*.htm;*.html)|*.htm;*.html";
 // outside 1 to 7 gives an empty text.
 std::string HtmlReport(const MatrixReport& report);
 
-// Writes the report to `path`. A failure shows the fault's message and
-// returns false; what was written stays.
+// Writes the report to `path`, replacing an existing file whole or not at
+// all (base::WriteFileAtomically). A failure shows the fault's message and
+// returns false; an old file at `path` then stays as it was.
 bool WriteHtmlReport(const std::filesystem::path& path, const MatrixReport& report,
                      platform::MessageBox& messages);
 

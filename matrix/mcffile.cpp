@@ -3,8 +3,8 @@
 #include <fstream>
 #include <istream>
 #include <sstream>
-#include <system_error>
 
+#include "base/atomicfile.h"
 #include "expr/fault.h"
 #include "expr/numtext.h"
 
@@ -73,29 +73,8 @@ std::string McfText(const Grid& grid) {
 }
 
 bool SaveGrid(const std::filesystem::path& path, const Grid& grid) {
-  const std::string text = McfText(grid);  // the cells are read before the file is touched
-  std::filesystem::path temp = path;
-  temp += ".tmp";
-  {
-    std::ofstream out(temp, std::ios::binary | std::ios::trunc);
-    if (!out) return false;
-    out.write(text.data(), static_cast<std::streamsize>(text.size()));
-    out.flush();
-    if (!out) {
-      out.close();
-      std::error_code ignored;
-      std::filesystem::remove(temp, ignored);
-      return false;
-    }
-  }
-  std::error_code ec;
-  std::filesystem::rename(temp, path, ec);
-  if (ec) {
-    std::error_code ignored;
-    std::filesystem::remove(temp, ignored);
-    return false;
-  }
-  return true;
+  // The cells are read before the file is touched.
+  return base::WriteFileAtomically(path, McfText(grid));
 }
 
 void ReadMcf(std::istream& in, Grid& grid) {

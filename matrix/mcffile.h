@@ -18,9 +18,9 @@ inline constexpr const char* kMcfFilter = "Matrix Calculator Files (*.mcf)|*.mcf
 // The bytes of the file for a grid.
 std::string McfText(const Grid& grid);
 
-// Writes the file; an existing file is replaced. The bytes go to a
-// temporary file beside it that is then renamed over it, so a failed write
-// never leaves half a matrix. Returns false when the file cannot be written.
+// Writes the file; an existing file is replaced whole or not at all
+// (base::WriteFileAtomically), so a failed write never leaves half a matrix.
+// Returns false when the file cannot be written.
 bool SaveGrid(const std::filesystem::path& path, const Grid& grid);
 
 // Reads a file into the grid. The grid starts as 1 x 1 and empty; the two

@@ -10,8 +10,10 @@
 
 namespace velmora::platform {
 
-// A settings tree held in memory: tests, and batch runs that must not touch
-// the user's files. Names compare exactly, as in the INI store.
+// A settings tree held in memory: the paper pictures of Plotting Options,
+// benchmarks, and runs that must not touch the user's file. Names compare
+// exactly, as in the settings file. Tests use the checking fake built on it
+// (tests/support/fakesettingsstore.h).
 class MemorySettingsStore final : public SettingsStore {
  public:
   std::optional<std::string> Query(std::string_view section, std::string_view name) override {

@@ -4,6 +4,7 @@
 #include <string>
 #include <string_view>
 
+#include "platform/settingskeys.h"
 #include "platform/settingsstore.h"
 
 namespace velmora::platform {
@@ -16,8 +17,8 @@ namespace velmora::platform {
 class RecentList {
  public:
   static constexpr int kEntries = 8;
-  static constexpr std::string_view kFunctions = "Recent Functions";
-  static constexpr std::string_view kMathPad = "MathPad";
+  static constexpr std::string_view kFunctions = keys::kRecentFunctions;
+  static constexpr std::string_view kMathPad = keys::kMathPad;
 
   RecentList(SettingsStore& store, std::string_view section) : store_(store), section_(section) {}
 
@@ -36,7 +37,7 @@ class RecentList {
   int VisibleEntries() const { return visibleEntries_; }
 
  private:
-  std::string Key(int i) const { return "Recent" + std::to_string(i); }
+  static std::string_view Key(int i) { return keys::RecentName(i); }
 
   SettingsStore& store_;
   std::string section_;

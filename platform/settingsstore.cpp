@@ -2,9 +2,6 @@
 
 #include <exception>
 
-#include "expr/fault.h"
-#include "expr/numtext.h"
-
 namespace velmora::platform {
 
 std::string KeyPath(std::string_view prefix, std::string_view product, std::string_view section) {
@@ -25,15 +22,6 @@ std::string GetRegValue(SettingsStore& store, std::string_view section, std::str
     // A store that fails to answer reads as an absent value.
   }
   return std::string(defaultText);
-}
-
-double GetRegNumber(SettingsStore& store, std::string_view section, std::string_view name,
-                    std::string_view defaultText) {
-  try {
-    return expr::TextToNumber(GetRegValue(store, section, name, defaultText));
-  } catch (const expr::Fault&) {
-    return 0.0;
-  }
 }
 
 void SetRegValue(SettingsStore& store, std::string_view section, std::string_view name,

@@ -32,11 +32,8 @@ std::string KeyPath(std::string_view prefix, std::string_view product, std::stri
 std::string GetRegValue(SettingsStore& store, std::string_view section, std::string_view name,
                         std::string_view defaultText);
 
-// The value as a number by the leading-number parse: absent gives the
-// default's number, a text that holds no number gives 0, and so does a
-// number beyond the range of a double.
-double GetRegNumber(SettingsStore& store, std::string_view section, std::string_view name,
-                    std::string_view defaultText);
+// Numbers are not read here: a value is text, and its number is the
+// caller's to take with the numeric text rules of expr/ (graph/settingnumber.h).
 
 // Writes text, or a 32-bit number as its decimal text.
 void SetRegValue(SettingsStore& store, std::string_view section, std::string_view name,

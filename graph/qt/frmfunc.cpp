@@ -19,7 +19,6 @@
 #include <QPainter>
 #include <QPlainTextEdit>
 #include <QRadioButton>
-#include <QSaveFile>
 #include <QScrollBar>
 #include <QSignalBlocker>
 #include <QTableWidget>
@@ -34,6 +33,8 @@
 #include "graph/qt/qimagesurface.h"
 #include "graph/viewresize.h"
 #include "graph/windowcommands.h"
+#include "platform/qt/qtsavefile.h"
+#include "platform/qt/qtstring.h"
 
 namespace velmora::graph_qt {
 namespace {
@@ -52,8 +53,9 @@ std::int64_t SteadyClockMs() {
       .count();
 }
 
-QString Q(const std::string& text) { return QString::fromStdString(text); }
-std::string S(const QString& text) { return text.toStdString(); }
+// The shared text converters under the short names this file uses throughout.
+constexpr auto& Q = qtplatform::ToQString;
+constexpr auto& S = qtplatform::ToStdString;
 
 // A label that reports a click (lblPerCent: click to stop).
 class ClickLabel final : public QLabel {
@@ -694,14 +696,10 @@ bool FrmFunc::Sav1() {
   const bool saved = commands_->Sav1([this](const std::string& path) {
     // Written beside the target and renamed over it: a failed save never
     // leaves half a file.
-    QSaveFile file(QString::fromStdString(path));
-    if (!file.open(QIODevice::WriteOnly)) return false;
-    QImageWriter writer(&file, "bmp");
-    if (!writer.write(surface_->Image())) {
-      file.cancelWriting();
-      return false;
-    }
-    return file.commit();
+    return qtplatform::SaveFileAtomically(Q(path), [this](QIODevice& file) {
+      QImageWriter writer(&file, "bmp");
+      return writer.write(surface_->Image());
+    });
   });
   Done();
   return saved;

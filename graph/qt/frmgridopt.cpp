@@ -16,15 +16,14 @@
 #include <QValidator>
 
 #include "graph/qt/paperpreview.h"
+#include "platform/qt/qtstring.h"
 
 namespace velmora::graph_qt {
 namespace {
 
 using Options = graph::PlottingOptions;
-
-QString Q(std::string_view text) {
-  return QString::fromUtf8(text.data(), static_cast<qsizetype>(text.size()));
-}
+using qtplatform::ToQString;
+using qtplatform::ToStdString;
 
 // The key filter of the scale note's boxes.
 class ScaleNoteValidator final : public QValidator {
@@ -44,7 +43,7 @@ FrmGridOpt::FrmGridOpt(platform::SettingsStore& settings, platform::MessageBox& 
                        graph::GraphWindow* active, QWidget* parent)
     : QDialog(parent), settings_(settings), messages_(messages), active_(active) {
   setObjectName(QStringLiteral("frmGridOpt"));
-  setWindowTitle(Q(Options::kCaption));
+  setWindowTitle(ToQString(Options::kCaption));
 
   // Frame1: the grid step; Frame2: the numbers of the scale note.
   auto* frame1 = new QGroupBox(tr("Grid step"), this);
@@ -56,20 +55,20 @@ FrmGridOpt::FrmGridOpt(platform::SettingsStore& settings, platform::MessageBox& 
   const auto boxes = Options::TextBoxes();
   for (std::size_t i = 0; i < boxes.size(); ++i) {
     auto* edit = new QLineEdit(this);
-    edit->setObjectName(Q(boxes[i].control));
+    edit->setObjectName(ToQString(boxes[i].control));
     texts_[i] = edit;
-    auto* label = new QLabel(Q(boxes[i].caption), this);
+    auto* label = new QLabel(ToQString(boxes[i].caption), this);
     label->setBuddy(edit);
     (i < 2 ? form1 : form2)->addRow(label, edit);
     connect(edit, &QLineEdit::textEdited, this,
-            [this, i](const QString& text) { model_.texts[i] = text.toStdString(); });
+            [this, i](const QString& text) { model_.texts[i] = ToStdString(text); });
   }
   texts_[Options::kTxtX1]->setValidator(new ScaleNoteValidator(texts_[Options::kTxtX1]));
   texts_[Options::kTxtY1]->setValidator(new ScaleNoteValidator(texts_[Options::kTxtY1]));
 
   auto* checkColumn = new QVBoxLayout;
   for (const auto& box : Options::CheckBoxes()) {
-    auto* check = new QCheckBox(Q(box.caption), this);
+    auto* check = new QCheckBox(ToQString(box.caption), this);
     check->setObjectName(QStringLiteral("Check%1").arg(box.number));
     check->setVisible(box.visible);
     checks_[box.number - 1] = check;
@@ -89,7 +88,7 @@ FrmGridOpt::FrmGridOpt(platform::SettingsStore& settings, platform::MessageBox& 
     images_[i]->setFrameShape(QFrame::Box);
     images_[i]->setCursor(Qt::PointingHandCursor);
     images_[i]->installEventFilter(this);
-    papers_[i] = new QRadioButton(Q(captions[static_cast<std::size_t>(i)]), this);
+    papers_[i] = new QRadioButton(ToQString(captions[static_cast<std::size_t>(i)]), this);
     papers_[i]->setObjectName(QStringLiteral("Option2_%1").arg(i));
     paperRow->addWidget(images_[i], 0, i, Qt::AlignCenter);
     paperRow->addWidget(papers_[i], 1, i, Qt::AlignCenter);
@@ -130,8 +129,7 @@ FrmGridOpt::FrmGridOpt(platform::SettingsStore& settings, platform::MessageBox& 
 }
 
 void FrmGridOpt::ShowModel() {
-  for (int i = 0; i < 4; ++i)
-    texts_[i]->setText(QString::fromStdString(model_.texts[static_cast<std::size_t>(i)]));
+  for (int i = 0; i < 4; ++i) texts_[i]->setText(ToQString(model_.texts[static_cast<std::size_t>(i)]));
   for (int n = 1; n <= Options::kChecks; ++n) {
     const QSignalBlocker block(checks_[n - 1]);
     checks_[n - 1]->setChecked(model_.Check(n));
@@ -142,13 +140,13 @@ void FrmGridOpt::ShowModel() {
   }
   texts_[Options::kTxtX1]->setEnabled(model_.txtX1Enabled);
   texts_[Options::kTxtY1]->setEnabled(model_.txtY1Enabled);
-  checks_[2]->setEnabled(model_.Check3Enabled);
+  checks_[Options::kCheckTicksOnly - 1]->setEnabled(model_.Check3Enabled);
 }
 
 void FrmGridOpt::CheckClicked(int number) {
   model_.SetCheck(number, checks_[number - 1]->isChecked());
-  if (number == 1) model_.Check1Click();
-  if (number == 2) model_.Check2Click(active_);
+  if (number == Options::kCheckHideGrid) model_.Check1Click();
+  if (number == Options::kCheckAssignAxes) model_.Check2Click(active_);
   ShowModel();
 }
 

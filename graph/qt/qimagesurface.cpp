@@ -6,6 +6,9 @@
 #include <QFontInfo>
 #include <QFontMetricsF>
 
+#include "platform/qt/qtsavefile.h"
+#include "platform/qt/qtstring.h"
+
 namespace velmora::graph_qt {
 namespace {
 
@@ -32,9 +35,7 @@ constexpr double kArrowHalf = 0.24;
 constexpr double kBoldGrowth = 1.2;
 constexpr double kPointsToPixels = 96.0 / 72.0;
 
-QString ToQString(std::string_view text) {
-  return QString::fromUtf8(text.data(), static_cast<qsizetype>(text.size()));
-}
+using qtplatform::ToQString;
 
 }  // namespace
 
@@ -70,7 +71,10 @@ const QImage& QImageSurface::Image() {
   return image_;
 }
 
-bool QImageSurface::SavePng(const QString& file) { return Image().save(file, "PNG"); }
+bool QImageSurface::SavePng(const QString& file) {
+  return qtplatform::SaveFileAtomically(file,
+                                        [this](QIODevice& device) { return Image().save(&device, "PNG"); });
+}
 
 void QImageSurface::Resize(int width, int height) { Resize(width, height, 0, 0); }
 
@@ -212,7 +216,7 @@ std::string QImageSurface::ResolveFontName(std::string_view requested) const {
     return std::string(requested);
   const QString family = ToQString(requested);
   if (QFontDatabase::hasFamily(family)) return std::string(requested);
-  return QFontInfo(QFont(family)).family().toStdString();
+  return qtplatform::ToStdString(QFontInfo(QFont(family)).family());
 }
 
 double QImageSurface::TextWidth(std::string_view text) const {

@@ -1,12 +1,13 @@
 #include "platform/qt/qtsettingsstore.h"
 
+#include "platform/qt/qtstring.h"
+
 namespace velmora::qtplatform {
 namespace {
 
 QString KeyOf(std::string_view section, std::string_view name) {
-  const QString value = QString::fromUtf8(name.data(), static_cast<qsizetype>(name.size()));
-  if (section.empty()) return value;
-  return QString::fromUtf8(section.data(), static_cast<qsizetype>(section.size())) + QLatin1Char('/') + value;
+  if (section.empty()) return ToQString(name);
+  return ToQString(section) + QLatin1Char('/') + ToQString(name);
 }
 
 }  // namespace
@@ -27,15 +28,19 @@ std::optional<std::string> QtSettingsStore::Query(std::string_view section, std:
   const QVariant value = settings_->value(key);
   // A list (an unquoted "," in the file) has no single text and reads as empty.
   if (value.typeId() == QMetaType::QStringList) return std::string();
-  return value.toString().toStdString();
+  return ToStdString(value.toString());
 }
 
 void QtSettingsStore::Store(std::string_view section, std::string_view name, std::string_view text) {
-  settings_->setValue(KeyOf(section, name),
-                      QString::fromUtf8(text.data(), static_cast<qsizetype>(text.size())));
+  settings_->setValue(KeyOf(section, name), ToQString(text));
+  // Written at once: QSettings takes the file's lock, merges what another
+  // process wrote meanwhile, and replaces the file through QSaveFile, so a
+  // failed write leaves the old file. The failure itself is not reported.
   settings_->sync();
 }
 
 QString QtSettingsStore::FileName() const { return settings_->fileName(); }
+
+QSettings::Status QtSettingsStore::Status() const { return settings_->status(); }
 
 }  // namespace velmora::qtplatform

@@ -53,7 +53,7 @@ class FakeChild final : public GraphChild {
   }
 
   RecordingSurface surface{600, 400};
-  platform::MemorySettingsStore settings;
+  velmora::testing::FakeSettingsStore settings;
   testing::RecordingMessageBox messages;
   testing::ScriptedInputBox input;
   std::unique_ptr<graph::GraphWindow> logic;

@@ -5,8 +5,8 @@
 #include "app/menustate.h"
 #include "app/statuspanels.h"
 #include "app/toolbarlayout.h"
-#include "platform/memorysettingsstore.h"
 #include "tests/graph/windowfixture.h"
+#include "tests/support/fakesettingsstore.h"
 
 namespace velmora::app {
 namespace {
@@ -70,7 +70,7 @@ TEST(MenuState, ZoomDropDownTexts) {
 }
 
 TEST(ToolbarLayout, AnEmptyStoreGivesTheDefaultLayout) {
-  platform::MemorySettingsStore store;
+  velmora::testing::FakeSettingsStore store;
   const ToolbarLayout layout = LoadToolbars(store);
   EXPECT_EQ(layout.rows, 1);
   EXPECT_EQ(layout.visible, (std::array<bool, 4>{true, true, false, true}));  // band 3 hidden
@@ -89,11 +89,11 @@ TEST(ToolbarLayout, StoredValuesAreRead) {
       {"-1", true},     {"maybe", true},   // no truth value: the default stays
   };
   for (const auto& c : cases) {
-    platform::MemorySettingsStore store;
+    velmora::testing::FakeSettingsStore store;
     store.Store("TB", "TB1", c.value);
     EXPECT_EQ(LoadToolbars(store).visible[0], c.band1) << c.value;
   }
-  platform::MemorySettingsStore store;
+  velmora::testing::FakeSettingsStore store;
   store.Store("TB", "Rows", "2");
   store.Store("TB", "TB3", "True");
   store.Store("TBW", "TB2", "4500");
@@ -104,7 +104,7 @@ TEST(ToolbarLayout, StoredValuesAreRead) {
 }
 
 TEST(ToolbarLayout, SaveWritesEveryKeyAndReadsBack) {
-  platform::MemorySettingsStore store;
+  velmora::testing::FakeSettingsStore store;
   ToolbarLayout layout;
   layout.rows = 2;
   layout.visible = {false, true, true, false};

@@ -30,7 +30,7 @@ struct EngineWindow {
     window = std::make_unique<GraphWindow>(surface, std::move(services));
   }
   RecordingSurface surface{600, 400};
-  platform::MemorySettingsStore settings;
+  velmora::testing::FakeSettingsStore settings;
   testing::RecordingMessageBox messages;
   testing::ScriptedInputBox input;
   std::unique_ptr<GraphWindow> window;

@@ -31,7 +31,7 @@ struct EngineWindow {
   }
 
   RecordingSurface surface{600, 400};
-  platform::MemorySettingsStore settings;
+  velmora::testing::FakeSettingsStore settings;
   testing::RecordingMessageBox messages;
   testing::ScriptedInputBox input;
   testing::RecordingObserver observer;

@@ -6,7 +6,7 @@
 #include <string>
 #include <vector>
 
-#include "platform/memorysettingsstore.h"
+#include "tests/support/fakesettingsstore.h"
 #include "tests/support/recordingmessagebox.h"
 #include "tests/support/recordingsurface.h"
 
@@ -36,7 +36,7 @@ struct Paper {
   }
 
   RecordingSurface surface;
-  platform::MemorySettingsStore store;
+  velmora::testing::FakeSettingsStore store;
   RecordingMessageBox messages;
   GraphPaper paper{surface, store, messages};
   PaperView view{30, 300, 200, kGrid, kAxes};

@@ -31,7 +31,7 @@ TEST(PlottingOptions, TheTablesHoldTheCaptionsAndKeys) {
 }
 
 TEST(PlottingOptions, AnEmptyStoreLoadsTheDialogsDefaults) {
-  platform::MemorySettingsStore settings;
+  velmora::testing::FakeSettingsStore settings;
   PlottingOptions o;
   o.Load(settings);
   for (const auto& text : o.texts) EXPECT_EQ(text, "1");
@@ -55,7 +55,7 @@ class LoadTest : public ::testing::TestWithParam<LoadCase> {};
 
 TEST_P(LoadTest, ACheckTakesTheAbsoluteValueOfItsKey) {
   const LoadCase& c = GetParam();
-  platform::MemorySettingsStore settings;
+  velmora::testing::FakeSettingsStore settings;
   settings.Store("Grid", c.key, c.stored);
   PlottingOptions o;
   o.Load(settings);
@@ -72,7 +72,7 @@ INSTANTIATE_TEST_SUITE_P(Keys, LoadTest,
                                            LoadCase{"PolarP", "2", 7, true}));
 
 TEST(PlottingOptions, StoredTextsLoadAsTheyStand) {
-  platform::MemorySettingsStore settings;
+  velmora::testing::FakeSettingsStore settings;
   settings.Store("Grid", "ScaleX", "0.5");
   settings.Store("Grid", "ScaleY1", "abc");
   PlottingOptions o;
@@ -82,7 +82,7 @@ TEST(PlottingOptions, StoredTextsLoadAsTheyStand) {
 }
 
 TEST(PlottingOptions, ThePaperTypeHasNoKeyAndTheHiddenChecksKeepTheirs) {
-  platform::MemorySettingsStore settings;
+  velmora::testing::FakeSettingsStore settings;
   settings.Store("Grid", "PolarP", "1");
   PlottingOptions o;
   o.Load(settings);
@@ -91,7 +91,7 @@ TEST(PlottingOptions, ThePaperTypeHasNoKeyAndTheHiddenChecksKeepTheirs) {
 }
 
 TEST(PlottingOptions, HideGridDisablesTheScaleNoteAndTicks) {
-  platform::MemorySettingsStore settings;
+  velmora::testing::FakeSettingsStore settings;
   settings.Store("Grid", "Axes", "1");
   PlottingOptions o;
   o.Load(settings);
@@ -130,7 +130,7 @@ INSTANTIATE_TEST_SUITE_P(Types, PaperTest,
                                            PaperCase{2, false, true}));  // Trig
 
 TEST(PlottingOptions, ResetChangesTheControlsOnly) {
-  platform::MemorySettingsStore settings;
+  velmora::testing::FakeSettingsStore settings;
   settings.Store("Grid", "ScaleX", "2");
   settings.Store("Grid", "Dash", "1");
   PlottingOptions o;
@@ -227,7 +227,7 @@ TEST_F(ApplyTest, AssignAxesTicksTheWindowsTransparentBox) {
 }
 
 TEST(PlottingOptions, ApplyWithoutAWindowWritesTheKeysOnly) {
-  platform::MemorySettingsStore settings;
+  velmora::testing::FakeSettingsStore settings;
   testing::RecordingMessageBox messages;
   PlottingOptions o;
   o.Load(settings);

@@ -9,7 +9,7 @@
 
 #include "graph/graphpaper.h"
 #include "graph/qt/headlessgui.h"
-#include "platform/memorysettingsstore.h"
+#include "tests/support/fakesettingsstore.h"
 #include "tests/support/recordingmessagebox.h"
 
 namespace velmora::graph_qt {
@@ -150,7 +150,7 @@ TEST(QImageSurface, AssignedAxesGetArrowHeadsAndNoMessage) {
   QImageSurface s(200, 100);
   s.SetBackColor(0xFFFFFF);
   s.Clear();
-  platform::MemorySettingsStore settings;
+  velmora::testing::FakeSettingsStore settings;
   settings.Store("Grid", "Ozna", "1");
   settings.Store("Grid", "Axes", "1");
   testing::RecordingMessageBox messages;
@@ -194,7 +194,7 @@ TEST(QImageSurface, ResizeKeepsWhatFits) {
 
 TEST(QImageSurface, PaperOnTheImageAndSavedAsPng) {
   QImageSurface s(600, 400);
-  platform::MemorySettingsStore store;
+  velmora::testing::FakeSettingsStore store;
   testing::RecordingMessageBox messages;
   graph::GraphPaper paper(s, store, messages);
   s.SetBackColor(0xF5F5F5);

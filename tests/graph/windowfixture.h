@@ -7,9 +7,9 @@
 
 #include "graph/graphwindow.h"
 #include "graph/historylog.h"
-#include "platform/memorysettingsstore.h"
 #include "platform/recentlist.h"
 #include "tests/support/evaluatorstate.h"
+#include "tests/support/fakesettingsstore.h"
 #include "tests/support/recordingmessagebox.h"
 #include "tests/support/recordingsurface.h"
 #include "tests/support/scriptedformula.h"
@@ -81,7 +81,7 @@ struct WindowFixture {
   }
 
   RecordingSurface surface;
-  platform::MemorySettingsStore settings;
+  velmora::testing::FakeSettingsStore settings;
   RecordingMessageBox messages;
   ScriptedInputBox input;
   RecordingHost host;

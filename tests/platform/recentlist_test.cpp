@@ -5,7 +5,7 @@
 #include <string>
 #include <vector>
 
-#include "platform/memorysettingsstore.h"
+#include "tests/support/fakesettingsstore.h"
 
 namespace velmora::platform {
 namespace {
@@ -16,7 +16,7 @@ std::vector<std::string> Captions(const RecentList& list) {
   return out;
 }
 
-std::vector<std::string> Stored(MemorySettingsStore& store, std::string_view section) {
+std::vector<std::string> Stored(velmora::testing::FakeSettingsStore& store, std::string_view section) {
   std::vector<std::string> out;
   for (int i = 1; i <= RecentList::kEntries; ++i)
     out.push_back(GetRegValue(store, section, "Recent" + std::to_string(i), ""));
@@ -35,7 +35,7 @@ class AddRecentTest : public ::testing::TestWithParam<AddCase> {};
 
 TEST_P(AddRecentTest, OrderCaptionsAndStore) {
   const auto& c = GetParam();
-  MemorySettingsStore store;
+  velmora::testing::FakeSettingsStore store;
   for (std::size_t i = 0; i < c.before.size(); ++i)
     SetRegValue(store, RecentList::kFunctions, "Recent" + std::to_string(i + 1), c.before[i]);
   RecentList list(store, RecentList::kFunctions);
@@ -67,7 +67,7 @@ INSTANTIATE_TEST_SUITE_P(
     [](const auto& row) { return std::string(row.param.name); });
 
 TEST(RecentList, EmptyStoreShowsNoEntryAndNoSeparator) {
-  MemorySettingsStore store;
+  velmora::testing::FakeSettingsStore store;
   RecentList list(store, RecentList::kFunctions);
   list.LoadRecent();
   list.ShowRecent();
@@ -76,7 +76,7 @@ TEST(RecentList, EmptyStoreShowsNoEntryAndNoSeparator) {
 }
 
 TEST(RecentList, ShowStopsAtTheFirstEmptyCaption) {
-  MemorySettingsStore store;
+  velmora::testing::FakeSettingsStore store;
   SetRegValue(store, RecentList::kMathPad, "Recent1", "/a.rtf");
   SetRegValue(store, RecentList::kMathPad, "Recent3", "/c.rtf");
   RecentList list(store, RecentList::kMathPad);
@@ -88,7 +88,7 @@ TEST(RecentList, ShowStopsAtTheFirstEmptyCaption) {
 }
 
 TEST(RecentList, TheTwoListsKeepTheirOwnSections) {
-  MemorySettingsStore store;
+  velmora::testing::FakeSettingsStore store;
   RecentList functions(store, RecentList::kFunctions);
   RecentList files(store, RecentList::kMathPad);
   functions.AddRecent("SinX ; K | Cartesian");

@@ -19,10 +19,10 @@
 #include "graph/qt/frmfunc.h"
 #include "graph/qt/pdrawview.h"
 #include "graph/qt/qimagesurface.h"
-#include "platform/memorysettingsstore.h"
 #include "platform/recentlist.h"
 #include "tests/graph/dialogfakes.h"
 #include "tests/support/evaluatorstate.h"
+#include "tests/support/fakesettingsstore.h"
 #include "tests/support/recordingmessagebox.h"
 #include "tests/support/scriptedinputbox.h"
 
@@ -99,7 +99,7 @@ class FrmFuncTest : public ::testing::Test {
 
   std::function<std::int64_t()> clockMs;  // empty: the window's steady clock
   QTemporaryDir dir;
-  platform::MemorySettingsStore settings;
+  velmora::testing::FakeSettingsStore settings;
   RecordingMessageBox messages;
   ScriptedInputBox input;
   ScriptedColorDialog colours;
