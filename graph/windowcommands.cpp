@@ -20,7 +20,7 @@ Colour DefaultColour(std::string_view key) {
 // ---- Colours ------------------------------------------------------------------------
 
 bool WindowCommands::ChooseColour(std::uint32_t& colour) {
-  if (w_.Drawing || colours_ == nullptr) return false;
+  if (w_.State().Drawing() || colours_ == nullptr) return false;
   const auto chosen = colours_->Choose(colour);
   if (!chosen) return false;
   colour = *chosen & 0xFFFFFF;
@@ -41,37 +41,35 @@ bool WindowCommands::mnuBojeBack() {
 }
 
 bool WindowCommands::mnuBojeGrid() {
-  std::uint32_t colour = w_.GridColor;
+  std::uint32_t colour = w_.Pen().GridColor();
   if (!ChooseColour(colour)) return false;
-  w_.GridColor = colour;
+  w_.SetGridColor(colour);
   RepaintPaper();
   return true;
 }
 
 bool WindowCommands::mnuBojeAxes() {
-  std::uint32_t colour = w_.AxesColor;
+  std::uint32_t colour = w_.Pen().AxesColor();
   if (!ChooseColour(colour)) return false;
-  w_.AxesColor = colour;
+  w_.SetAxesColor(colour);
   RepaintPaper();
   return true;
 }
 
 bool WindowCommands::mnuBojeGraph() {
   // The dialog starts from the chosen colour, not from a random one.
-  std::uint32_t colour = w_.lblBoja.BackColor;
+  std::uint32_t colour = w_.Pen().lblBoja();
   if (!ChooseColour(colour)) return false;
-  w_.Graph_Clr = colour;
-  w_.lblBoja.BackColor = colour;
+  w_.ChooseGraphColour(colour);
   return true;
 }
 
 void WindowCommands::mnuBojeDef() {
-  if (w_.Drawing) return;
+  if (w_.State().Drawing()) return;
   w_.pDraw().SetBackColor(DefaultColour("Pozadina"));
-  w_.Graph_Clr = DefaultColour("Grafik");
-  w_.lblBoja.BackColor = w_.Graph_Clr;
-  w_.GridColor = DefaultColour("Grid");
-  w_.AxesColor = DefaultColour("Ose");
+  w_.ChooseGraphColour(DefaultColour("Grafik"));
+  w_.SetGridColor(DefaultColour("Grid"));
+  w_.SetAxesColor(DefaultColour("Ose"));
   RepaintPaper();
 }
 
@@ -80,14 +78,14 @@ void WindowCommands::Sacboje() {
     platform::SetRegValue(settings_, kColours, key, std::to_string(colour & 0xFFFFFF));
   };
   store("Pozadina", w_.pDraw().BackColor());
-  store("Grafik", w_.lblBoja.BackColor);
-  store("Grid", w_.GridColor);
-  store("Ose", w_.AxesColor);
+  store("Grafik", w_.Pen().lblBoja());
+  store("Grid", w_.Pen().GridColor());
+  store("Ose", w_.Pen().AxesColor());
 }
 
 void WindowCommands::ColourMenu(ColourEntry entry) {
-  if (w_.Drawing) return;
-  w_.Zezaj = true;
+  if (w_.State().Drawing()) return;
+  w_.SetZezaj(true);
   bool changed = true;
   switch (entry) {
     case ColourEntry::Background: changed = mnuBojeBack(); break;
@@ -98,16 +96,16 @@ void WindowCommands::ColourMenu(ColourEntry entry) {
   }
   if (changed) {
     Sacboje();
-    if (w_.KolkoFunkc > 0) w_.RedrawFunc();
+    if (w_.State().KolkoFunkc() > 0) w_.RedrawFunc();
   }
-  w_.Zezaj = false;
+  w_.SetZezaj(false);
 }
 
 // ---- Edit menu ---------------------------------------------------------------------------
 
 void WindowCommands::ClearAll() {
-  if (w_.Drawing) return;
-  if (w_.KolkoFunkc > 0) {
+  if (w_.State().Drawing()) return;
+  if (w_.State().KolkoFunkc() > 0) {
     const auto answer = messages_.Show(std::string(kClearAllQuestion), std::string(kClearAllTitle),
                                        platform::MsgIcon::Question, platform::MsgButtons::YesNo);
     if (answer != platform::MsgResult::Yes) return;
@@ -116,24 +114,24 @@ void WindowCommands::ClearAll() {
 }
 
 void WindowCommands::ClearScreen() {
-  if (w_.Drawing) return;
-  w_.Zezaj = true;
+  if (w_.State().Drawing()) return;
+  w_.SetZezaj(true);
   w_.ClearGraph(false);
-  w_.Zezaj = false;
+  w_.SetZezaj(false);
 }
 
 void WindowCommands::mnuclhistory() {
-  if (w_.Drawing) return;
+  if (w_.State().Drawing()) return;
   const auto answer =
       messages_.Show(std::string(kClearHistoryQuestion), std::string(GraphWindow::kDefaultTitle),
                      platform::MsgIcon::Question, platform::MsgButtons::YesNo);
   if (answer != platform::MsgResult::Yes) return;
   if (history_ != nullptr) history_->Clear();
-  w_.rtb.clear();
+  w_.ClearHistoryView();
 }
 
 bool WindowCommands::AskBeforeErasing() {
-  if (w_.KolkoFunkc > 0 && platform::ReadSettingNumber(settings_, "Grid", "Autored") == 0) {
+  if (w_.State().KolkoFunkc() > 0 && platform::ReadSettingNumber(settings_, "Grid", "Autored") == 0) {
     const auto answer = messages_.Show(std::string(kClearGridQuestion), std::string(kClearGridTitle),
                                        platform::MsgIcon::None, platform::MsgButtons::OkCancel);
     if (answer != platform::MsgResult::Ok) return false;
@@ -142,34 +140,34 @@ bool WindowCommands::AskBeforeErasing() {
 }
 
 void WindowCommands::ClearGrid() {
-  if (w_.Drawing || !AskBeforeErasing()) return;
+  if (w_.State().Drawing() || !AskBeforeErasing()) return;
   w_.Clearwith();
   if (platform::ReadSettingNumber(settings_, "Grid", "Autored") == 1) w_.RedrawFunc();
 }
 
 void WindowCommands::RedrawGrid() {
-  if (w_.Drawing || !AskBeforeErasing()) return;
+  if (w_.State().Drawing() || !AskBeforeErasing()) return;
   w_.Redraw();
   if (platform::ReadSettingNumber(settings_, "Grid", "Autored") == 1) w_.RedrawFunc();
 }
 
 void WindowCommands::ClearFju() {
-  if (w_.Drawing) return;
+  if (w_.State().Drawing()) return;
   const auto answer = messages_.Show(std::string(kClearFunctionQuestion), std::string(kClearFunctionTitle),
                                      platform::MsgIcon::None, platform::MsgButtons::OkCancel);
   if (answer != platform::MsgResult::Ok) return;
-  w_.txtY.Text.clear();
+  w_.ClearFunctionText();
 }
 
 void WindowCommands::SwapYX() {
-  if (w_.Drawing) return;
-  std::swap(w_.txtY.Text, w_.txtX.Text);
+  if (w_.State().Drawing()) return;
+  w_.SwapYX();
 }
 
 // ---- Pictures ---------------------------------------------------------------------------------
 
 bool WindowCommands::Sav1(const PictureWriter& write) {
-  if (w_.Drawing || files_ == nullptr) return false;
+  if (w_.State().Drawing() || files_ == nullptr) return false;
   const auto chosen = files_->Save(std::string(kSaveTitle), std::string(kSaveFilter), "", "");
   if (!chosen || chosen->empty()) return false;
   std::filesystem::path path(*chosen);
