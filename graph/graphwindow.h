@@ -163,8 +163,14 @@ class GraphWindow final : public expr::GraphFields, public GraphToolTarget {
   void AdoptListsOf(const GraphWindow& other);
 
   // ---- Drawing ------------------------------------------------------------
+  // `CrtajFJU` ("draw the function"): the draw of a Cartesian or parametric
+  // function from the boxes, with its check, history record, recent line,
+  // lists and table.
   void CrtajFJU();
+  // `CrtajPolar`: the same for R (K), drawn as R sin K against R cos K.
   void CrtajPolar();
+  // `CrtajFJUAuto`, `CrtajPolarAuto`: the replay of a listed function: no
+  // check, no record, no recent line, lists or count.
   void CrtajFJUAuto();
   void CrtajPolarAuto();
   // Enter in txtY: CrtajPolar in type 3, else CrtajFJU.
@@ -180,7 +186,8 @@ class GraphWindow final : public expr::GraphFields, public GraphToolTarget {
   // Esc or a click on the progress label.
   void Stop() { draw_.RequestStop(); }
 
-  // The evaluation primitives; a failed evaluation gives 0.
+  // The evaluation primitives; a failed evaluation gives 0. `F`: FuncY at
+  // K = v; `F2`: FuncX at K = v with Y = w.
   double F(double v);
   double F2(double v, double w);
   // F on another text of the evaluation form (the mouse copy of a function,
@@ -191,9 +198,14 @@ class GraphWindow final : public expr::GraphFields, public GraphToolTarget {
   double EvaluateXAt(std::string_view evaluationForm, double v, double w);
 
   // ---- Paper and clearing ---------------------------------------------------
+  // `DrawLines`: the graph paper (grid, axes, numbers) over the picture.
   void DrawLines();
+  // `ClearGraph`: the picture cleared and the paper drawn again; `whole`
+  // also empties the boxes, the lists, the count and the table.
   void ClearGraph(bool whole);
+  // `Clearwith`: the surface cleared, nothing drawn.
   void Clearwith();
+  // `Redraw`: the paper, unless a draw is running.
   void Redraw();
   // Clear Function: the Y box emptied; Swap Y - X: the two texts exchanged.
   void ClearFunctionText() { boxes_.SetTxtY(""); }
@@ -203,24 +215,32 @@ class GraphWindow final : public expr::GraphFields, public GraphToolTarget {
   // Each command that asks a question is the question (the menu's entry)
   // and its apply, which the examples and the batch front end call with
   // the answer they would have typed.
+  // `Zumiraj` ("zoom"): the zoom's text from Zoom, the paper repainted.
   void Zumiraj();
+  // `mnuzoomin`, `mnuzoomout`, `mnuZoomDef`: the presets 50, 15 and 30.
   void mnuzoomin();
   void mnuzoomout();
   void mnuZoomDef();
+  // `mnuFineZoom`: asks "Select zooming factor in range (5-200)." and
+  // applies the answer (ApplyFineZoom).
   void mnuFineZoom();
   // Fine zoom with an answer: a number from 5 to 200 becomes the zoom; out
   // of range shows "Input out of range (5-200)!" and keeps the number as the
   // zoom unpainted; an empty or unreadable answer changes nothing.
   void ApplyFineZoom(std::string_view answer);
-  // Fixed zooms of examples: 8, 15, 44, 177.
+  // `ZumDec`, `ZumStef`, `ZumGama`, `ZumPuding`: the fixed zooms of the
+  // examples, 8, 15, 44 and 177.
   void ZumDec();
   void ZumStef();
   void ZumGama();
   void ZumPuding();
   // A window becoming active shows its own zoom in the toolbar texts.
   void Activate();
+  // `PomeriX`, `PomeriY` ("shift"): a value with the move taken off.
   double PomeriX(double v) const { return view_.PomeriX(v); }
   double PomeriY(double v) const { return view_.PomeriY(v); }
+  // `mnuright`, `mnuleft`, `mnuup`, `mnudown`: ask how many grid steps and
+  // apply the answer (ApplyMove).
   void mnuright();
   void mnuleft();
   void mnuup();
@@ -228,7 +248,10 @@ class GraphWindow final : public expr::GraphFields, public GraphToolTarget {
   // A move with an answer: that many grid steps of the X axis, the paper
   // repainted, "Moved:" extended. An empty answer changes nothing.
   void ApplyMove(MoveDirection direction, std::string_view answer);
+  // `mnuCenter`: the origin back in the middle, "Moved:" again.
   void mnuCenter();
+  // `mnuPlotWidth`: asks the graph line width until the answer is good or
+  // empty (ApplyPlotWidth).
   void mnuPlotWidth();
   // The plot width with an answer: a number above 0 becomes GraphLineWidth
   // and gives true; anything else shows "Invalid input: Line width = ..."
@@ -236,9 +259,14 @@ class GraphWindow final : public expr::GraphFields, public GraphToolTarget {
   bool ApplyPlotWidth(std::string_view answer);
 
   // ---- Tables and history -----------------------------------------------------
+  // `FillValueTable`: MS1 for the Cartesian function in txtY, X from `from`
+  // to `to`; `FillValueTableParam` for the parametric pair, K between the
+  // bounds; `FillValueTablePolar` for R (K) at thirteen angles of one turn.
   void FillValueTable(double from, double to);
   void FillValueTableParam(double top, double bottom);
   void FillValueTablePolar();
+  // `funcSave`: the history record of the last draw in GraphLog.txt, and
+  // rtb read again.
   void funcSave();
 
   // ---- Frame ---------------------------------------------------------------------
@@ -252,6 +280,9 @@ class GraphWindow final : public expr::GraphFields, public GraphToolTarget {
   std::string TxtY3() override { return fraction_.txtY3; }
   std::string TxtY2() override { return fraction_.txtY2; }
   std::string LblY3() override { return fraction_.lblY3; }
+  // `Boje2`, `Boje3` ("colours"): the plot colour becomes the background
+  // or the chosen graph colour again; the text evaluator calls them for the
+  // inverse secant and cosecant.
   void Boje2() override;
   void Boje3() override;
 

@@ -4,6 +4,7 @@
 
 #include <cmath>
 #include <filesystem>
+#include <stdexcept>
 #include <string>
 #include <vector>
 
@@ -485,6 +486,28 @@ TEST_F(DrawTest, ParametricTangentRecord) {
                            " X = 0.5403; Y = 0.8415\n Tangent Line: Y = -0.6421*x+1.1884; X = K\n"),
             std::string::npos)
       << History();
+}
+
+}  // namespace
+}  // namespace velmora::graph
+
+namespace velmora::graph {
+namespace {
+
+TEST_F(DrawTest, AnExceptionInTheMiddleOfADrawLeavesTheWindowUsable) {
+  auto& w = Make();
+  f.host.onPump = [](int pumps) {
+    if (pumps == 50) throw std::runtime_error("a fault the loop does not trap");
+  };
+  EXPECT_THROW(Enter("SinX"), std::runtime_error);
+  EXPECT_FALSE(w.State().Drawing());
+  f.host.onPump = nullptr;
+  // Every command works again: a zoom repaints, a draw draws.
+  w.mnuzoomin();
+  EXPECT_EQ(w.View().Zoom(), 50);
+  Enter("SinX");
+  EXPECT_FALSE(Curve().empty());
+  EXPECT_EQ(w.State().KolkoFunkc(), 1);
 }
 
 }  // namespace

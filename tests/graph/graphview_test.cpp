@@ -206,6 +206,81 @@ TEST_P(MoveTest, ShiftsTheCentreInGridSteps) {
   EXPECT_DOUBLE_EQ(axes[1].y1, c.centerY);
 }
 
+// The catalogue and velmora-cli give the answer themselves: the same move,
+// no question.
+TEST_P(MoveTest, TheApplyIsTheMenusMoveWithoutTheQuestion) {
+  const auto& c = GetParam();
+  WindowFixture f;
+  f.settings.Store("Grid", "ScaleX", c.scaleX);
+  auto& w = f.Make();
+  const std::string title = c.title;
+  const MoveDirection direction = title == "Moving Right"  ? MoveDirection::Right
+                                  : title == "Moving Left" ? MoveDirection::Left
+                                  : title == "Moving Up"   ? MoveDirection::Up
+                                                           : MoveDirection::Down;
+  w.ApplyMove(direction, c.answer);
+  EXPECT_TRUE(f.input.AskedBoxes().empty());
+  EXPECT_DOUBLE_EQ(w.View().CenterX(), c.centerX);
+  EXPECT_DOUBLE_EQ(w.View().CenterY(), c.centerY);
+  EXPECT_DOUBLE_EQ(w.View().MoveX(), c.moveX);
+  EXPECT_DOUBLE_EQ(w.View().MoveY(), c.moveY);
+  EXPECT_EQ(w.View().MovedText(), c.moved);
+  EXPECT_EQ(f.host.statusTexts.back(), c.moved);
+}
+
+TEST(Move, AnEmptyAnswerOrADrawChangesNothing) {
+  WindowFixture f;
+  auto& w = f.Make();
+  w.ApplyMove(MoveDirection::Right, "");
+  {
+    const auto busy = w.Busy();
+    w.ApplyMove(MoveDirection::Right, "2");
+  }
+  EXPECT_EQ(w.View().CenterX(), 300);
+  EXPECT_EQ(w.View().MovedText(), "Moved:");
+  EXPECT_FALSE(w.View().MovedRight());
+}
+
+struct FineApplyCase {
+  const char* answer;
+  double zoom;
+  std::size_t messages;
+  const char* why;
+};
+
+class FineZoomApply : public ::testing::TestWithParam<FineApplyCase> {};
+
+TEST_P(FineZoomApply, TheAnswerGivenDirectly) {
+  const auto& c = GetParam();
+  WindowFixture f;
+  auto& w = f.Make();
+  w.ApplyFineZoom(c.answer);
+  EXPECT_TRUE(f.input.AskedBoxes().empty());
+  EXPECT_EQ(w.View().Zoom(), c.zoom) << c.why;
+  ASSERT_EQ(f.messages.Boxes().size(), c.messages) << c.why;
+  if (c.messages > 0) {
+    EXPECT_EQ(f.messages.Boxes()[0].text, "Input out of range (5-200)!");
+  }
+}
+
+INSTANTIATE_TEST_SUITE_P(Answers, FineZoomApply,
+                         ::testing::Values(FineApplyCase{"44", 44, 0, "in range: the new zoom"},
+                                           FineApplyCase{"4", 4, 1, "out of range stays, unpainted"},
+                                           FineApplyCase{"", 30, 0, "empty: nothing"}));
+
+TEST(PlotWidth, TheApplyTakesAPositiveNumberAndRefusesTheRest) {
+  WindowFixture f;
+  auto& w = f.Make();
+  EXPECT_TRUE(w.ApplyPlotWidth("2.5"));
+  EXPECT_EQ(w.Pen().GraphLineWidth(), 2.5);
+  EXPECT_FALSE(w.ApplyPlotWidth("-1"));
+  EXPECT_FALSE(w.ApplyPlotWidth("wide"));
+  EXPECT_EQ(w.Pen().GraphLineWidth(), 2.5);
+  ASSERT_EQ(f.messages.Boxes().size(), 2u);
+  EXPECT_EQ(f.messages.Boxes()[1].text, "Invalid input: Line width = wide.");
+  EXPECT_TRUE(f.input.AskedBoxes().empty());
+}
+
 INSTANTIATE_TEST_SUITE_P(
     Moves, MoveTest,
     ::testing::Values(
