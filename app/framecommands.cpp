@@ -6,8 +6,8 @@ namespace {
 // Zezaj is set while a command changes the window.
 class ChangeScope {
  public:
-  explicit ChangeScope(graph::GraphWindow& logic) : logic_(logic) { logic_.Zezaj = true; }
-  ~ChangeScope() { logic_.Zezaj = false; }
+  explicit ChangeScope(graph::GraphWindow& logic) : logic_(logic) { logic_.SetZezaj(true); }
+  ~ChangeScope() { logic_.SetZezaj(false); }
   ChangeScope(const ChangeScope&) = delete;
   ChangeScope& operator=(const ChangeScope&) = delete;
 
@@ -75,7 +75,7 @@ bool FrameCommands::Run(Command command, GraphChild* child) {
 void FrameCommands::ViewCommand(Command command, GraphChild* child) {
   if (child == nullptr) return;
   auto& logic = child->Logic();
-  if (logic.Drawing) return;
+  if (logic.State().Drawing()) return;
   {
     ChangeScope scope(logic);
     switch (command) {
@@ -92,7 +92,7 @@ void FrameCommands::ViewCommand(Command command, GraphChild* child) {
     }
     // With AutoRedraw off RedrawFunc forgets the functions: the paper stays
     // empty.
-    if (logic.KolkoFunkc > 0) logic.RedrawFunc();
+    if (logic.State().KolkoFunkc() > 0) logic.RedrawFunc();
   }
   child->SyncFromLogic();
 }
@@ -100,7 +100,7 @@ void FrameCommands::ViewCommand(Command command, GraphChild* child) {
 void FrameCommands::FunctionType(int type, GraphChild* child) {
   if (child == nullptr) return;
   auto& logic = child->Logic();
-  if (logic.Drawing) return;
+  if (logic.State().Drawing()) return;
   logic.optFunk(type);
   child->SyncFromLogic();
 }
@@ -108,10 +108,10 @@ void FrameCommands::FunctionType(int type, GraphChild* child) {
 void FrameCommands::DrawRecent(std::string_view line, GraphChild* child) {
   if (child == nullptr || line.empty()) return;
   auto& logic = child->Logic();
-  if (logic.Drawing) return;
+  if (logic.State().Drawing()) return;
   logic.PodeliFje(line);
   child->SyncFromLogic();
-  if (logic.optFunkcije == graph::kPolar) {
+  if (logic.Boxes().optFunkcije() == graph::kPolar) {
     logic.CrtajPolar();
   } else {
     logic.CrtajFJU();
@@ -122,8 +122,8 @@ void FrameCommands::DrawRecent(std::string_view line, GraphChild* child) {
 void FrameCommands::LoadExample(const graph::Example& example, GraphChild* child) {
   if (child == nullptr) return;
   auto& logic = child->Logic();
-  if (logic.Drawing) return;
-  graph::LoadExample(logic, example, settings_);
+  if (logic.State().Drawing()) return;
+  graph::LoadExample(logic, example);
   child->SyncFromLogic();
 }
 

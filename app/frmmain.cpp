@@ -308,7 +308,7 @@ void FrmMain::WindowActivated(QMdiSubWindow* sub) {
   // The toolbar's zoom texts and the status text follow the window.
   graph::GraphWindow& logic = window->Logic();
   logic.Activate();
-  statusText_ = logic.MovedText;
+  statusText_ = logic.View().MovedText();
   UpdateStatus();
 }
 
@@ -319,8 +319,8 @@ FrameView FrmMain::View() const {
   view.helpFile = helpFile_;
   if (const graph_qt::FrmFunc* active = ActiveGraphWindow()) {
     view.hasActive = true;
-    view.functionType = active->Logic().optFunkcije;
-    view.zoom = active->Logic().zoomMenu;
+    view.functionType = active->Logic().Boxes().optFunkcije();
+    view.zoom = active->Logic().zoomMenu();
   }
   return view;
 }
@@ -379,7 +379,7 @@ void FrmMain::ChooseExample(const graph::Example* example) {
   if (graph_qt::FrmFunc* active = ActiveGraphWindow()) {
     GraphChildAdapter child(*active);
     commands_.LoadExample(*example, &child);
-    statusText_ = active->Logic().MovedText;
+    statusText_ = active->Logic().View().MovedText();
   }
   UpdateStatus();
 }

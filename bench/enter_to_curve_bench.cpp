@@ -124,7 +124,7 @@ void BM_EnterToCurve(benchmark::State& state, Function f) {
     state.ResumeTiming();
     PressEnter(box);
   }
-  if (window.Logic().KolkoFunkc == 0) state.SkipWithError("nothing was drawn");
+  if (window.Logic().State().KolkoFunkc() == 0) state.SkipWithError("nothing was drawn");
 }
 
 void BM_LogicOnly(benchmark::State& state, Function f) {
@@ -139,8 +139,7 @@ void BM_LogicOnly(benchmark::State& state, Function f) {
     state.PauseTiming();
     s.history.Clear();
     window.ClearGraph(false);
-    window.txtY.Text = f.y;
-    window.txtX.Text = f.x;
+    window.SetFunctionTexts(f.y, f.x);
     state.ResumeTiming();
     if (f.type == graph::kParametric) {
       window.CrtajFJU();

@@ -57,8 +57,8 @@ void BM_ExampleEntry(benchmark::State& state) {
     Window w;
     const graph::Example& example = Entry(n++ % EntryCount());
     state.ResumeTiming();
-    graph::LoadExample(*w.window, example, w.settings);
-    benchmark::DoNotOptimize(w.window->KolkoFunkc);
+    graph::LoadExample(*w.window, example);
+    benchmark::DoNotOptimize(w.window->State().KolkoFunkc());
   }
 }
 BENCHMARK(BM_ExampleEntry)->Unit(benchmark::kMillisecond)->Iterations(139 * 3);
@@ -71,7 +71,7 @@ void BM_ExampleEntryEach(benchmark::State& state) {
     state.PauseTiming();
     Window w;
     state.ResumeTiming();
-    graph::LoadExample(*w.window, example, w.settings);
+    graph::LoadExample(*w.window, example);
   }
   state.SetLabel(std::string(example.caption));
 }

@@ -40,10 +40,10 @@ constexpr Example kExamples[] = {
 };
 
 // Keeps every formula a redraw sends, for the engine-only benchmark.
-class RecordingControl final : public tools::FormulaControl {
+class RecordingControl final : public expr::FormulaControl {
  public:
   explicit RecordingControl(std::vector<std::string>* sink)
-      : inner_(tools::MakeFormulaControl()), sink_(sink) {}
+      : inner_(expr::MakeFormulaControl()), sink_(sink) {}
   void SetFormula(std::string_view text) override {
     if (sink_ != nullptr) sink_->emplace_back(text);
     inner_->SetFormula(text);
@@ -51,7 +51,7 @@ class RecordingControl final : public tools::FormulaControl {
   double Result() override { return inner_->Result(); }
 
  private:
-  std::unique_ptr<tools::FormulaControl> inner_;
+  std::unique_ptr<expr::FormulaControl> inner_;
   std::vector<std::string>* sink_;
 };
 
@@ -75,8 +75,7 @@ struct Scene {
     window = std::make_unique<graph::GraphWindow>(surface, std::move(services));
     for (const auto& e : kExamples) {
       window->optFunk(e.type);
-      window->txtY.Text = e.y;
-      window->txtX.Text = e.x;
+      window->SetFunctionTexts(e.y, e.x);
       window->DrawFromTxtY();
     }
     if (formulas != nullptr) {
@@ -87,10 +86,7 @@ struct Scene {
       again.input = &input;
       again.evaluator1 = std::make_unique<RecordingControl>(formulas);
       auto replay = std::make_unique<graph::GraphWindow>(surface, std::move(again));
-      replay->txtY.List = window->txtY.List;
-      replay->txtX.List = window->txtX.List;
-      replay->cmbR3.List = window->cmbR3.List;
-      replay->KolkoFunkc = window->KolkoFunkc;
+      replay->AdoptListsOf(*window);
       window = std::move(replay);
     }
   }
@@ -148,7 +144,7 @@ void BM_EngineOnly(benchmark::State& state) {
   std::vector<std::string> formulas;
   Scene scene(surface, &formulas);
   scene.Redraw();
-  auto engine = tools::MakeFormulaControl();
+  auto engine = expr::MakeFormulaControl();
   for (auto _ : state) {
     for (const auto& f : formulas) {
       engine->SetFormula(f);

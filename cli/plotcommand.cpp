@@ -1,7 +1,6 @@
 #include "cli/plotcommand.h"
 
 #include <charconv>
-#include <deque>
 #include <functional>
 #include <memory>
 #include <optional>
@@ -26,19 +25,13 @@ constexpr std::string_view kUsage =
     "         [--zoom in|out|default|Z] [--right N] [--left N] [--up N] [--down N] [--center] ...\n"
     "         [--replay] [--png FILE] [--trace] [--table] [--status]\n";
 
-// The answers of the move and zoom commands, typed in advance.
-class QueuedInputBox final : public platform::InputBox {
+// A batch run asks nothing: the move and zoom commands get their answers
+// from the command line through the window's apply routines.
+class SilentInputBox final : public platform::InputBox {
  public:
   std::optional<std::string> Ask(const std::string&, const std::string&, const std::string&) override {
-    if (answers_.empty()) return std::nullopt;
-    std::string answer = std::move(answers_.front());
-    answers_.pop_front();
-    return answer;
+    return std::nullopt;
   }
-  void Push(std::string answer) { answers_.push_back(std::move(answer)); }
-
- private:
-  std::deque<std::string> answers_;
 };
 
 // One line per pass of the sampling loop.
@@ -156,7 +149,7 @@ int RunPlot(const std::vector<std::string>& args, std::istream& /*in*/, std::ost
   qtplatform::QtSettingsStore& settings = *settingsStore;
   graph::HistoryLog history(o.history.value_or(graph::HistoryLog::DefaultPath()));
   StreamMessageBox messages(out, "message: ");
-  QueuedInputBox input;
+  SilentInputBox input;
   platform::RecentList recent(settings, platform::RecentList::kFunctions);
   recent.LoadRecent();
   TracePrinter trace(out);
@@ -175,8 +168,8 @@ int RunPlot(const std::vector<std::string>& args, std::istream& /*in*/, std::ost
   const auto flush = [&] {
     if (!pending.has) return;
     window.optFunk(pending.type);
-    window.txtY.Text = pending.y;
-    if (pending.x) window.txtX.Text = *pending.x;
+    window.SettxtY(pending.y);
+    if (pending.x) window.SettxtX(*pending.x);
     window.DrawFromTxtY();
     pending = Pending{};
   };
@@ -185,7 +178,7 @@ int RunPlot(const std::vector<std::string>& args, std::istream& /*in*/, std::ost
   const auto viewCommand = [&](const std::function<void()>& routine) {
     flush();
     routine();
-    if (window.KolkoFunkc > 0) window.RedrawFunc();
+    if (window.State().KolkoFunkc() > 0) window.RedrawFunc();
   };
 
   for (const Step& s : o.steps) {
@@ -209,19 +202,18 @@ int RunPlot(const std::vector<std::string>& args, std::istream& /*in*/, std::ost
         } else if (s.value == "default" || s.value == "30") {
           window.mnuZoomDef();
         } else {
-          input.Push(s.value);
-          window.mnuFineZoom();
+          window.ApplyFineZoom(s.value);
         }
       });
     } else if (s.option == "--center") {
       viewCommand([&] { window.mnuCenter(); });
     } else {
-      input.Push(s.value);
+      // The menu's move with the answer it would have asked for.
       viewCommand([&] {
-        if (s.option == "--right") window.mnuright();
-        if (s.option == "--left") window.mnuleft();
-        if (s.option == "--up") window.mnuup();
-        if (s.option == "--down") window.mnudown();
+        if (s.option == "--right") window.ApplyMove(graph::MoveDirection::Right, s.value);
+        if (s.option == "--left") window.ApplyMove(graph::MoveDirection::Left, s.value);
+        if (s.option == "--up") window.ApplyMove(graph::MoveDirection::Up, s.value);
+        if (s.option == "--down") window.ApplyMove(graph::MoveDirection::Down, s.value);
       });
     }
   }
@@ -229,12 +221,12 @@ int RunPlot(const std::vector<std::string>& args, std::istream& /*in*/, std::ost
   if (o.replay) window.RedrawFunc();
 
   if (o.table) {
-    for (const auto& line : window.MS1.TabLines()) out << line << '\n';
+    for (const auto& line : window.MS1().TabLines()) out << line << '\n';
   }
   if (o.status) {
     out << window.StatusCaption() << '\n';
-    out << "Zoom: " << expr::NumberToText(window.zlevel) << '\n';
-    out << window.MovedText << '\n';
+    out << "Zoom: " << expr::NumberToText(window.View().zlevel()) << '\n';
+    out << window.View().MovedText() << '\n';
   }
   if (o.png) {
     std::string error;

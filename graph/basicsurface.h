@@ -1,5 +1,6 @@
 #pragma once
 
+#include <cmath>
 #include <string>
 #include <string_view>
 #include <vector>
@@ -63,6 +64,10 @@ class BasicSurface : public Surface {
  protected:
   // Hooks for painting surfaces; the state has been checked and updated.
   virtual void PaintClear() {}
+  // A segment as the picture box's Line paints it: from the pixel the start
+  // falls in to the pixel the end falls in (PixelOf), both ends painted, so
+  // consecutive segments of a curve always touch. The coordinates come as
+  // the caller gave them (CurrentX and CurrentY keep them unrounded).
   virtual void PaintLine(double /*x1*/, double /*y1*/, double /*x2*/, double /*y2*/, Colour /*colour*/) {}
   virtual void PaintCircle(double /*x*/, double /*y*/, double /*radius*/, Colour /*colour*/) {}
   virtual void PaintText(double /*x*/, double /*y*/, std::string_view /*text*/) {}
@@ -71,6 +76,8 @@ class BasicSurface : public Surface {
   // else the name of its stand-in.
   virtual std::string ResolveFontName(std::string_view requested) const;
 
+  // The pixel a coordinate falls in: the one whose centre is nearest.
+  static int PixelOf(double value) { return static_cast<int>(std::floor(value + 0.5)); }
   // Faults (overflow) for a coordinate that cannot reach the device.
   static void CheckCoordinate(double value);
 

@@ -196,40 +196,12 @@ std::vector<std::string> SplitPairs(std::string_view text) {
   }
 }
 
-// Decart's move of its own: the right move with a fixed answer, without the
-// input box.
-void MoveRightWithoutAsking(GraphWindow& window, platform::SettingsStore& settings, std::string_view answer) {
-  if (window.Drawing) return;
-  window.MovedRight = true;
-  window.MovedLeft = false;
-  double shift = 0;
-  try {
-    const double gridStep = expr::TextToNumber(
-        platform::ReadSetting(settings, platform::keys::kGrid, platform::keys::grid::kScaleX));
-    shift = expr::RoundTo(expr::TextToNumber(answer) * gridStep, 1);
-  } catch (const expr::Fault&) {
-  }
-  window.CenterX += window.Zoom * shift;
-  window.Drawing = true;
-  window.Clearwith();
-  window.DrawLines();
-  window.Drawing = false;
-  try {
-    window.MoveX = expr::RoundTo((window.CenterX - window.pDraw().ScaleWidth() / 2) / window.Zoom, 3);
-    window.MoveY = expr::RoundTo(-(window.CenterY - window.pDraw().ScaleHeight() / 2) / window.Zoom, 3);
-  } catch (const expr::Fault&) {
-  }
-  window.LastMoveInput = std::string(answer);
-  window.LastMoveShift = shift;
-  window.MovedText += " R: " + std::string(answer);
-}
-
-void SetView(GraphWindow& window, platform::SettingsStore& settings, ExampleView view) {
+void SetView(GraphWindow& window, ExampleView view) {
   switch (view) {
     case ExampleView::Keep: break;
     case ExampleView::ZumDec:
       window.ZumDec();
-      MoveRightWithoutAsking(window, settings, kDecartMove);
+      window.ApplyMove(MoveDirection::Right, kDecartMove);
       break;
     case ExampleView::ZumStef: window.ZumStef(); break;
     case ExampleView::ZumGama: window.ZumGama(); break;
@@ -250,13 +222,12 @@ std::vector<std::pair<std::string, std::string>> ExampleCurves(const Example& ex
   return curves;
 }
 
-void LoadExample(GraphWindow& window, const Example& example, platform::SettingsStore& settings) {
-  window.Line1.Visible = false;
+void LoadExample(GraphWindow& window, const Example& example) {
+  window.ShowLine(OverlayLine::Line1, LineControl{});
   window.optFunk(example.type);
-  SetView(window, settings, example.view);
+  SetView(window, example.view);
   for (const auto& [y, x] : ExampleCurves(example)) {
-    window.txtY.Text = y;
-    window.txtX.Text = x;
+    window.SetFunctionTexts(y, x);
     if (example.type == kPolar) {
       window.CrtajPolar();
     } else {

@@ -44,8 +44,8 @@ inline constexpr std::string_view kDecartMove = "3";
 
 // Loads an example into a graph window: hides the tangent mark, chooses the
 // type, sets the example's view, then puts each pair into txtY and txtX and
-// draws it (CrtajPolar in polar type, CrtajFJU otherwise). `settings` is
-// the store the window reads (Decart's move counts grid steps of ScaleX).
-void LoadExample(GraphWindow& window, const Example& example, platform::SettingsStore& settings);
+// draws it (CrtajPolar in polar type, CrtajFJU otherwise). Decart's move is the
+// window's own right move with the answer kDecartMove.
+void LoadExample(GraphWindow& window, const Example& example);
 
 }  // namespace velmora::graph

@@ -8,6 +8,7 @@
 #include "expr/functionlibrary.h"
 #include "expr/normalise.h"
 #include "expr/numtext.h"
+#include "graph/drawingguard.h"
 #include "graph/graphwindow.h"
 #include "graph/settingnumber.h"
 #include "platform/settingskeys.h"
@@ -51,15 +52,6 @@ bool IsNumericText(std::string_view text) {
   return i == text.size();
 }
 
-std::string WithoutBlanks(std::string_view text) {
-  std::string out;
-  out.reserve(text.size());
-  for (const char c : text) {
-    if (c != ' ') out += c;
-  }
-  return out;
-}
-
 }  // namespace
 
 // The plot procedures: one loop, and these differences around it.
@@ -79,7 +71,7 @@ void GraphWindow::CrtajPolarAuto() {
 }
 
 void GraphWindow::DrawFromTxtY() {
-  if (optFunkcije == kPolar) {
+  if (boxes_.optFunkcije() == kPolar) {
     CrtajPolar();
   } else {
     CrtajFJU();
@@ -102,144 +94,120 @@ void GraphWindow::ChooseColour() {
     const int red = static_cast<int>(std::floor(expr::NextRandom(1) * 255));
     const int green = static_cast<int>(std::floor(expr::NextRandom(1) * 255));
     const int blue = static_cast<int>(std::floor(expr::NextRandom(1) * 255));
-    Graph_Clr = Rgb(red, green, blue);
+    pen_.SetGraph_Clr(Rgb(red, green, blue));
   } else {
-    Graph_Clr = static_cast<Colour>(
-        ReadSettingNumber(*services_.settings, platform::keys::kBoje, platform::keys::boje::kGrafik));
-    lblBoja.BackColor = Graph_Clr;
+    pen_.ChooseGraphColour(
+        static_cast<Colour>(platform::ReadSettingNumber(*services_.settings, "Boje", "Grafik")));
   }
 }
 
 void GraphWindow::Draw(const PlotProcedure& procedure) {
   // A draw in progress owns the working texts, the colour and the pen, so a
   // second command (a second Enter from the event pump) ends here at once.
-  if (Drawing) return;
-  const bool polar = procedure.polar || (procedure.polarInType3 && optFunkcije == kPolar);
-  // 1-3. The texts, blanks out of the boxes themselves.
-  StopCrtanje = false;
-  txtY.Text = WithoutBlanks(txtY.Text);
-  if (!polar) txtX.Text = WithoutBlanks(txtX.Text);
-  FuncY = expr::CleanUp(txtY.Text);
-  if (!polar) FuncX = expr::CleanUp(txtX.Text);
-  // 4. The trial; a bad text has shown its message and nothing is drawn.
+  if (draw_.Drawing()) return;
+  const bool polar = procedure.polar || (procedure.polarInType3 && boxes_.optFunkcije() == kPolar);
+  // The boxes lose their blanks in place; the working copies also get round
+  // brackets for square and curly ones.
+  draw_.ClearStop();
+  boxes_.RemoveBlanks(polar);
+  std::string funcY = expr::CleanUp(boxes_.txtY().Text);
+  std::string funcX = polar ? draw_.FuncX() : expr::CleanUp(boxes_.txtX().Text);
+  // The trial: a bad text has shown its message and nothing is drawn.
   if (procedure.checkSyntax) {
-    if (!CheckSyntax(FuncY)) return;
-    if (!polar && optFunkcije == kParametric && !CheckSyntax(FuncX)) return;
+    if (!CheckSyntax(funcY)) return;
+    if (!polar && boxes_.optFunkcije() == kParametric && !CheckSyntax(funcX)) return;
   }
-  // 5-7. Pen, colour, width.
+  // A solid pen, no cross-hairs or tangent mark, this plot's colour and width.
   ResumeNext([&] { surface_.SetDrawStyle(kSolid); });
-  LineY.Visible = false;
-  Line1.Visible = false;
-  Line2.Visible = false;
+  HideLines();
   ChooseColour();
-  if (GraphLineWidth <= 0) GraphLineWidth = 1;
-  ResumeNext([&] { surface_.SetDrawWidth(expr::ToShort(GraphLineWidth)); });
-  // 9. K is the only variable; EP and STL keep the X of EXP and FIX.
+  pen_.EnsureLineWidth();
+  ResumeNext([&] { surface_.SetDrawWidth(expr::ToShort(pen_.GraphLineWidth())); });
+  // K is the only variable; EP and STL keep the X of EXP and FIX. A polar R
+  // becomes the pair R sin K, R cos K.
   if (polar) {
-    const std::string r = expr::EvaluationForm(FuncY);
-    FuncY = expr::EvaluationForm(expr::CleanUp("(" + r + ")*(sinK)"));
-    FuncX = "(" + r + ")*(cosK)";  // mixed case: F2 upper-cases it
+    const std::string r = expr::EvaluationForm(funcY);
+    draw_.SetFunctions(expr::EvaluationForm(expr::CleanUp("(" + r + ")*(sinK)")),
+                       "(" + r + ")*(cosK)");  // mixed case: F2 upper-cases it
   } else {
-    FuncY = expr::EvaluationForm(FuncY);
-    FuncX = expr::EvaluationForm(FuncX);
+    draw_.SetFunctions(expr::EvaluationForm(funcY), expr::EvaluationForm(funcX));
   }
-  // 10. The texts as typed, for the history.
-  typedY_ = txtY.Text;
-  typedX_ = txtX.Text;
+  // The texts as typed, for the history.
+  typedY_ = boxes_.txtY().Text;
+  typedX_ = boxes_.txtX().Text;
   lastDrawPolar_ = polar;
-  // 11-12. The loop.
-  Drawing = true;
-  Progress("Done...    0 %", true);
-  CurveStrategy strategy(*this, !polar && optFunkcije == kCartesian);
-  const LoopResult result = SamplingLoop(*this, strategy).Run();
-  // 13. The history record, and the frame refreshes.
-  if (procedure.remember) funcSave();
-  if (services_.host != nullptr) services_.host->RefreshFrame();
-  // 14. The recent-functions line.
-  if (procedure.remember) AddRecent(polar);
-  // 15.
-  if (services_.host != nullptr) services_.host->FocusFunctionBox();
-  // 16. Errors are ignored from here on.
-  FinishTable(polar, result.lastXp);
-  // 17. Count and lists.
-  if (procedure.remember) Remember(polar);
-  // 18-19.
-  lblPointtab.ForeColor = Grid(platform::keys::grid::kRnd) == 1 ? Graph_Clr : 0;
-  Drawing = false;
-  Progress(lblPerCent.Caption, false);
-  Plotted = true;
-  Normalka = false;
-  Tngenta = false;
+  LoopResult result;
+  {
+    // Drawing is cleared however the loop ends, a fault included.
+    DrawingGuard drawing(draw_);
+    Progress("Done...    0 %", true);
+    CurveStrategy strategy(*this, !polar && boxes_.optFunkcije() == kCartesian);
+    result = SamplingLoop(*this, strategy).Run();
+    // The value table first: the history record of a Cartesian function
+    // names the table's first row, which must be this function's. Faults
+    // are ignored from here on.
+    FinishTable(polar, result.lastXp);
+    if (procedure.remember) funcSave();
+    if (services_.host != nullptr) services_.host->RefreshFrame();
+    if (procedure.remember) AddRecent(polar);
+    if (services_.host != nullptr) services_.host->FocusFunctionBox();
+    if (procedure.remember) Remember(polar);
+    lblPointtab_.ForeColor = Grid("Rnd") == 1 ? pen_.Graph_Clr() : 0;
+  }
+  Progress(lblPerCent_.Caption, false);
+  draw_.SetPlotted();
+  tangent_.EndCartesian();
 }
 
 void GraphWindow::AddRecent(bool polar) {
   if (services_.recent == nullptr) return;
-  const char* word = polar ? "Polar" : optFunkcije == kParametric ? "Parametric" : "Cartesian";
-  ResumeNext([&] { services_.recent->AddRecent(txtY.Text + " ; " + txtX.Text + " | " + word); });
+  const int type = boxes_.optFunkcije();
+  const char* word = polar ? "Polar" : type == kParametric ? "Parametric" : "Cartesian";
+  ResumeNext(
+      [&] { services_.recent->AddRecent(boxes_.txtY().Text + " ; " + boxes_.txtX().Text + " | " + word); });
 }
 
 void GraphWindow::FinishTable(bool polar, double lastXp) {
   ResumeNext([&] {
     if (polar) {
       FillValueTablePolar();
-    } else if (optFunkcije == kCartesian) {
-      ResumeNext([&] { Xkraj = PomeriX((lastXp - surface_.ScaleWidth() / 2) / ZoomText()); });
-      FillValueTable(Xpoc, Xkraj);
-    } else if (optFunkcije == kParametric) {
+    } else if (boxes_.optFunkcije() == kCartesian) {
+      ResumeNext([&] { draw_.SetXkraj(view_.PomeriX((lastXp - surface_.ScaleWidth() / 2) / ZoomText())); });
+      FillValueTable(draw_.Xpoc(), draw_.Xkraj());
+    } else if (boxes_.optFunkcije() == kParametric) {
       FillValueTableParam(9, -9);
     }
   });
 }
 
 void GraphWindow::Remember(bool polar) {
-  ++KolkoFunkc;
-  txtY.AddItemNoDuplicates(txtY.Text);
-  if (!polar && optFunkcije == kParametric) {
-    txtX.AddItemNoDuplicates(txtX.Text);
-    cmbR3.AddItemNoDuplicates(txtY.Text);
-  }
+  draw_.CountFunction();
+  boxes_.Remember(!polar && boxes_.optFunkcije() == kParametric);
 }
 
 void GraphWindow::RedrawFunc() {
-  if (Drawing) return;
-  if (Grid(platform::keys::grid::kAutored) != 1) {
-    KolkoFunkc = 0;
+  if (draw_.Drawing()) return;
+  if (Grid("Autored") != 1) {
+    draw_.SetKolkoFunkc(0);
     return;
   }
   // The oldest first: entry i from the end, for i from the count down. An
   // entry that is not there (a repeated function stands once in the list
   // but counts twice) leaves the box as it is.
-  for (int i = KolkoFunkc; i >= 1; --i) {
-    const auto size = static_cast<int>(txtY.List.size());
-    if (size - i >= 0) txtY.Text = txtY.List[static_cast<std::size_t>(size - i)];
+  for (int i = draw_.KolkoFunkc(); i >= 1; --i) {
+    const auto& list = boxes_.txtY().List;
+    const auto size = static_cast<int>(list.size());
+    if (size - i >= 0) boxes_.SetTxtY(list[static_cast<std::size_t>(size - i)]);
     txtY_Click();
   }
 }
 
 void GraphWindow::txtY_Click() {
-  const std::string upper = base::UpperCase(txtY.Text);
-  if (upper.find('K') != std::string::npos) {
-    int found = -1;
-    for (std::size_t i = 0; i < cmbR3.List.size(); ++i) {
-      if (cmbR3.List[i] == txtY.Text) {
-        found = static_cast<int>(i);
-        break;
-      }
-    }
-    if (found >= 0) {
-      if (static_cast<std::size_t>(found) < txtX.List.size())
-        txtX.Text = txtX.List[static_cast<std::size_t>(found)];
-      optFunk(kParametric);
-    } else {
-      optFunk(kPolar);
-    }
-  } else {
-    optFunk(kCartesian);
-  }
+  optFunk(boxes_.TypeOfPick());
   if (services_.host != nullptr) services_.host->RefreshFrame();
-  lblPointtab.ForeColor = 0;
-  if (Grid(platform::keys::grid::kAutored) == 1) {
-    if (optFunkcije == kPolar) {
+  lblPointtab_.ForeColor = 0;
+  if (Grid("Autored") == 1) {
+    if (boxes_.optFunkcije() == kPolar) {
       CrtajPolarAuto();
     } else {
       CrtajFJUAuto();
@@ -247,8 +215,8 @@ void GraphWindow::txtY_Click() {
     return;
   }
   ResumeNext([&] {
-    switch (optFunkcije) {
-      case kCartesian: FillValueTable(Xpoc, Xkraj); break;
+    switch (boxes_.optFunkcije()) {
+      case kCartesian: FillValueTable(draw_.Xpoc(), draw_.Xkraj()); break;
       case kParametric: FillValueTableParam(9, -9); break;
       default: FillValueTablePolar(); break;
     }
@@ -257,30 +225,32 @@ void GraphWindow::txtY_Click() {
 
 void GraphWindow::mnuPlotWidth() {
   // The box comes back with 1 as its default after a refused answer too.
-  const std::string defaultAnswer = "1";
   for (;;) {
     const std::string answer =
-        services_.input
-            ->Ask("Enter value for Graph-Line Width (e.g. 1, 1.6 ...).", "Graph-Line Width", defaultAnswer)
+        services_.input->Ask("Enter value for Graph-Line Width (e.g. 1, 1.6 ...).", "Graph-Line Width", "1")
             .value_or("");
-    if (answer.empty()) return;
-    double value = 0;
-    bool numeric = false;
-    try {
-      numeric = IsNumericText(answer);
-      value = expr::TextToNumber(answer);
-    } catch (const expr::Fault&) {
-      numeric = false;
-    }
-    if (numeric && value > 0) {
-      GraphLineWidth = value;
-      return;
-    }
-    std::string text = "Invalid input: Line width = ";
-    text += answer;
-    text += '.';
-    services_.messages->Show(text, std::string(kDefaultTitle), platform::MsgIcon::None);
+    if (answer.empty() || ApplyPlotWidth(answer)) return;
   }
+}
+
+bool GraphWindow::ApplyPlotWidth(std::string_view answer) {
+  double value = 0;
+  bool numeric = false;
+  try {
+    numeric = IsNumericText(answer);
+    value = expr::TextToNumber(answer);
+  } catch (const expr::Fault&) {
+    numeric = false;
+  }
+  if (numeric && value > 0) {
+    pen_.SetGraphLineWidth(value);
+    return true;
+  }
+  std::string text = "Invalid input: Line width = ";
+  text += answer;
+  text += '.';
+  services_.messages->Show(text, std::string(kDefaultTitle), platform::MsgIcon::None);
+  return false;
 }
 
 }  // namespace velmora::graph

@@ -56,15 +56,15 @@ void GraphPaper::Axes(const PaperView& v) {
 bool GraphPaper::DrawLines(const PaperView& v) {
   const double w = surface_.ScaleWidth();
   const double h = surface_.ScaleHeight();
-  // 1. The standard font.
+  // The standard font.
   StandardFont();
-  // 2. Assigned axes draw their text transparent.
-  const bool ozna = Number(grid::kOzna) == 1;
+  // Assigned axes draw their text transparent.
+  const bool ozna = Number("Ozna") == 1;
   if (ozna) surface_.SetFontTransparent(true);
-  // 3. The grid's pen.
-  const int dashStyle = Number(grid::kDash) == 1 ? kDot : kSolid;
+  // The grid's pen.
+  const int dashStyle = Number("Dash") == 1 ? kDot : kSolid;
   surface_.SetDrawStyle(dashStyle);
-  // 4. The steps, in user units.
+  // The steps, in user units.
   double stepX = 0;
   double stepY = 0;
   if (Number(grid::kTrigo) == 1) {
@@ -76,7 +76,7 @@ bool GraphPaper::DrawLines(const PaperView& v) {
   }
   const double px = stepX * v.Zoom;
   const double py = stepY * v.Zoom;
-  // 5-7. The paper and the axes. Every loop starts at the axis, so a line
+  // The paper and the axes. Every loop starts at the axis, so a line
   // always passes through the origin.
   if (Number(grid::kAxes) == 1) {
     surface_.SetDrawStyle(kSolid);
@@ -125,16 +125,16 @@ bool GraphPaper::DrawLines(const PaperView& v) {
     surface_.SetDrawStyle(kSolid);
   }
   Axes(v);
-  // 8. The numbers.
+  // The numbers.
   surface_.SetDrawStyle(kSolid);
   CrtajBrojeve(v);
-  // 9. Axis names and arrows.
+  // Axis names and arrows.
   if (ozna) {
     surface_.SetForeColor(v.AxesColor);
     CrtajStrele(v);
   }
-  // 10. The scale note.
-  if (Number(grid::kSkala) == 1) {
+  // The scale note.
+  if (Number("Skala") == 1) {
     StandardFont();
     surface_.SetForeColor(v.AxesColor);
     surface_.SetCurrentX(8);

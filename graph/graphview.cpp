@@ -4,6 +4,7 @@
 
 #include "expr/fault.h"
 #include "expr/numtext.h"
+#include "graph/drawingguard.h"
 #include "graph/graphwindow.h"
 #include "platform/settingskeys.h"
 
@@ -46,29 +47,29 @@ void ResumeNext(Statement&& statement) {
 }  // namespace
 
 void GraphWindow::Zumiraj() {
-  lblzm.Caption = expr::NumberToText(Zoom);
+  lblzm_.Caption = expr::NumberToText(view_.Zoom());
   Clearwith();
   DrawLines();
 }
 
 void GraphWindow::ZoomPreset(double value, int checked, std::string text) {
-  if (Drawing) return;
-  zoomMenu.Checked = checked;
-  Zoom = value;
-  lblzm.Caption = expr::NumberToText(value);
+  if (draw_.Drawing()) return;
+  zoomMenu_.Checked = checked;
+  view_.SetZoom(value);
+  lblzm_.Caption = expr::NumberToText(value);
   Clearwith();
   DrawLines();
-  zoomMenu.ZoomIn = "Zoom&In";
-  zoomMenu.ZoomOut = "Zoom&Out";
-  zoomMenu.Default = "&Default";
-  zoomMenu.Custom = "&Custom...";
+  zoomMenu_.ZoomIn = "Zoom&In";
+  zoomMenu_.ZoomOut = "Zoom&Out";
+  zoomMenu_.Default = "&Default";
+  zoomMenu_.Custom = "&Custom...";
   switch (checked) {
-    case kZoomInEntry: zoomMenu.ZoomIn = std::move(text); break;
-    case kZoomOutEntry: zoomMenu.ZoomOut = std::move(text); break;
-    case kDefaultEntry: zoomMenu.Default = std::move(text); break;
-    default: zoomMenu.Custom = std::move(text); break;
+    case kZoomInEntry: zoomMenu_.ZoomIn = std::move(text); break;
+    case kZoomOutEntry: zoomMenu_.ZoomOut = std::move(text); break;
+    case kDefaultEntry: zoomMenu_.Default = std::move(text); break;
+    default: zoomMenu_.Custom = std::move(text); break;
   }
-  zlevel = value;
+  view_.SetZlevel(value);
 }
 
 void GraphWindow::mnuzoomin() { ZoomPreset(kZoomIn.value, kZoomIn.checked, std::string(kZoomIn.text)); }
@@ -91,10 +92,12 @@ void GraphWindow::ZumPuding() {
 }
 
 void GraphWindow::mnuFineZoom() {
-  if (Drawing) return;
-  const std::string answer =
-      services_.input->Ask("Select zooming factor in range (5-200).", "Zooming", "").value_or("");
-  if (answer.empty()) return;
+  if (draw_.Drawing()) return;
+  ApplyFineZoom(services_.input->Ask("Select zooming factor in range (5-200).", "Zooming", "").value_or(""));
+}
+
+void GraphWindow::ApplyFineZoom(std::string_view answer) {
+  if (draw_.Drawing() || answer.empty()) return;
   double value = 0;
   try {
     value = expr::TextToNumber(answer);
@@ -103,65 +106,58 @@ void GraphWindow::mnuFineZoom() {
   }
   // The refused value stays in Zoom; the view is not repainted until the
   // next command.
-  Zoom = value;
-  if (Zoom < kMinZoom || Zoom > kMaxZoom) {
+  view_.SetZoom(value);
+  if (value < kMinZoom || value > kMaxZoom) {
     services_.messages->Show("Input out of range (5-200)!", std::string(kDefaultTitle),
                              platform::MsgIcon::None);
     return;
   }
-  ZoomPreset(Zoom, kCustomEntry, "> &Custom (" + expr::NumberToText(Zoom) + ")");
+  ZoomPreset(value, kCustomEntry, "> &Custom (" + expr::NumberToText(value) + ")");
 }
 
 void GraphWindow::Activate() {
   // The text-only forms of the presets that a window shows when it becomes
   // the active one.
-  zoomMenu.Custom = "Custom...";
-  zoomMenu.ZoomIn = "Zoomin";
-  zoomMenu.ZoomOut = "Zoomout";
-  zoomMenu.Default = "Default";
-  if (Zoom == kZoomOut.value) {
-    zoomMenu.ZoomOut = "> Zoomout (10)";
-    zoomMenu.Checked = kZoomOutEntry;
-  } else if (Zoom == kZoomDefault.value) {
-    zoomMenu.Default = "> Default (30)";
-    zoomMenu.Checked = kDefaultEntry;
-  } else if (Zoom == kZoomIn.value) {
-    zoomMenu.ZoomIn = "> Zoom&In (50)";
-    zoomMenu.Checked = kZoomInEntry;
+  zoomMenu_.Custom = "Custom...";
+  zoomMenu_.ZoomIn = "Zoomin";
+  zoomMenu_.ZoomOut = "Zoomout";
+  zoomMenu_.Default = "Default";
+  const double zoom = view_.Zoom();
+  if (zoom == kZoomOut.value) {
+    zoomMenu_.ZoomOut = "> Zoomout (10)";
+    zoomMenu_.Checked = kZoomOutEntry;
+  } else if (zoom == kZoomDefault.value) {
+    zoomMenu_.Default = "> Default (30)";
+    zoomMenu_.Checked = kDefaultEntry;
+  } else if (zoom == kZoomIn.value) {
+    zoomMenu_.ZoomIn = "> Zoom&In (50)";
+    zoomMenu_.Checked = kZoomInEntry;
   } else {
-    zoomMenu.Custom = "> Custom (" + expr::NumberToText(Zoom) + ")";
-    zoomMenu.Checked = kCustomEntry;
+    zoomMenu_.Custom = "> Custom (" + expr::NumberToText(zoom) + ")";
+    zoomMenu_.Checked = kCustomEntry;
   }
-  zlevel = Zoom;
-  if (services_.host != nullptr) services_.host->ShowStatusText(MovedText);
+  view_.SetZlevel(zoom);
+  if (services_.host != nullptr) services_.host->ShowStatusText(view_.MovedText());
 }
-
-double GraphWindow::PomeriX(double v) const { return (MovedLeft || MovedRight) ? v - MoveX : v; }
-double GraphWindow::PomeriY(double v) const { return (MovedUp || MovedDown) ? v - MoveY : v; }
 
 void GraphWindow::Repaint() {
-  Drawing = true;
-  Clearwith();
-  DrawLines();
-  Drawing = false;
-  ResumeNext([&] { MoveX = expr::RoundTo((CenterX - surface_.ScaleWidth() / 2) / Zoom, 3); });
-  ResumeNext([&] { MoveY = expr::RoundTo(-(CenterY - surface_.ScaleHeight() / 2) / Zoom, 3); });
+  {
+    DrawingGuard drawing(draw_);
+    Clearwith();
+    DrawLines();
+  }
+  view_.UpdateMoveCentre(surface_.ScaleWidth(), surface_.ScaleHeight());
 }
 
-// axis 0 moves CenterX, axis 1 CenterY; sign +1 is right or up.
-void GraphWindow::Move(std::string_view title, std::string_view tag, int axis, int sign) {
-  if (Drawing) return;
-  const std::string answer =
-      services_.input->Ask("Enter value for moving center of plotting area.", std::string(title), "1")
-          .value_or("");
-  if (answer.empty()) return;
-  if (axis == 0) {
-    MovedRight = sign > 0;
-    MovedLeft = sign < 0;
-  } else {
-    MovedUp = sign > 0;
-    MovedDown = sign < 0;
-  }
+void GraphWindow::AskMove(std::string_view title, MoveDirection direction) {
+  if (draw_.Drawing()) return;
+  ApplyMove(direction,
+            services_.input->Ask("Enter value for moving center of plotting area.", std::string(title), "1")
+                .value_or(""));
+}
+
+void GraphWindow::ApplyMove(MoveDirection direction, std::string_view answer) {
+  if (draw_.Drawing() || answer.empty()) return;
   // The answer counts grid steps of the X axis, whichever way the move goes.
   double shift = 0;
   ResumeNext([&] {
@@ -169,30 +165,22 @@ void GraphWindow::Move(std::string_view title, std::string_view tag, int axis, i
         platform::ReadSetting(*services_.settings, platform::keys::kGrid, platform::keys::grid::kScaleX));
     shift = expr::RoundTo(expr::TextToNumber(answer) * gridStep, 1);
   });
-  if (axis == 0) {
-    CenterX += sign * Zoom * shift;
-  } else {
-    CenterY -= sign * Zoom * shift;  // up raises the plot: the origin's row goes up
-  }
+  view_.Move(direction, answer, shift);
   Repaint();
-  LastMoveInput = answer;
-  LastMoveShift = shift;
-  MovedText += std::string(tag) + answer;
-  if (services_.host != nullptr) services_.host->ShowStatusText(MovedText);
+  if (services_.host != nullptr) services_.host->ShowStatusText(view_.MovedText());
 }
 
-void GraphWindow::mnuright() { Move("Moving Right", " R: ", 0, +1); }
-void GraphWindow::mnuleft() { Move("Moving Left", " L: ", 0, -1); }
-void GraphWindow::mnuup() { Move("Moving Up", " Up: ", 1, +1); }
-void GraphWindow::mnudown() { Move("Moving Down", " D: ", 1, -1); }
+void GraphWindow::mnuright() { AskMove("Moving Right", MoveDirection::Right); }
+void GraphWindow::mnuleft() { AskMove("Moving Left", MoveDirection::Left); }
+void GraphWindow::mnuup() { AskMove("Moving Up", MoveDirection::Up); }
+void GraphWindow::mnudown() { AskMove("Moving Down", MoveDirection::Down); }
 
 void GraphWindow::mnuCenter() {
-  if (Drawing) return;
-  CenterX = surface_.ScaleWidth() / 2;
-  CenterY = surface_.ScaleHeight() / 2;
+  if (draw_.Drawing()) return;
+  view_.SetCentre(surface_.ScaleWidth() / 2, surface_.ScaleHeight() / 2);
   Repaint();
-  MovedText = "Moved:";
-  if (services_.host != nullptr) services_.host->ShowStatusText(MovedText);
+  view_.ResetMovedText();
+  if (services_.host != nullptr) services_.host->ShowStatusText(view_.MovedText());
 }
 
 }  // namespace velmora::graph

@@ -4,14 +4,12 @@
 
 #include "expr/fault.h"
 #include "expr/numtext.h"
+#include "graph/tablerows.h"
 #include "platform/settingskeys.h"
-#include "tools/tablerows.h"
 
 namespace velmora::graph {
 namespace {
 
-// Captions of labY by function type.
-constexpr std::string_view kLabY[] = {"Y (X) =", "Y (K) =", "R (K) ="};
 constexpr Colour kLabelGrey = 0xDFDFDF;
 
 }  // namespace
@@ -20,40 +18,28 @@ GraphWindow::GraphWindow(Surface& pDraw, GraphServices services)
     : surface_(pDraw),
       services_(std::move(services)),
       paper_(surface_, *services_.settings, *services_.messages) {
-  if (services_.history != nullptr) rtb = services_.history->ReadAll();
-  KolkoFunkc = 0;
-  Zoom = 30;
-  zlevel = 30;
-  lblzm.Caption = expr::NumberToText(Zoom);
-  lblzm.Visible = false;
-  CenterX = surface_.ScaleWidth() / 2;
-  CenterY = surface_.ScaleHeight() / 2;
-  txtX.Text = "K";
-  LABx.Caption = "X (K) =";
+  if (services_.history != nullptr) rtb_ = services_.history->ReadAll();
+  lblzm_.Caption = expr::NumberToText(view_.Zoom());
+  lblzm_.Visible = false;
+  view_.SetCentre(surface_.ScaleWidth() / 2, surface_.ScaleHeight() / 2);
   optFunk(kCartesian);
   // Colours from the settings.
   auto& settings = *services_.settings;
   surface_.SetBackColor(static_cast<Colour>(platform::ReadSettingNumber(settings, "Boje", "Pozadina")));
-  Graph_Clr = static_cast<Colour>(platform::ReadSettingNumber(settings, "Boje", "Grafik"));
-  GridColor = static_cast<Colour>(platform::ReadSettingNumber(settings, "Boje", "Grid"));
-  AxesColor = static_cast<Colour>(platform::ReadSettingNumber(settings, "Boje", "Ose"));
-  lblBoja.BackColor = Graph_Clr;
-  lblBoja.Visible = false;
-  AvBoja = 255;
-  MovedText = "Moved:";
-  lblPerCent.BackColor = kLabelGrey;
-  lblPerCent.Visible = false;
-  LblChart.BackColor = kLabelGrey;
-  lblxy.Caption = "Y";
-  lblxy.Visible = false;
-  lblPointtab.Caption = "Value Tables:";
-  tools::ResetTable(MS1, tools::TableLayout::Cartesian);
+  pen_.ChooseGraphColour(static_cast<Colour>(platform::ReadSettingNumber(settings, "Boje", "Grafik")));
+  pen_.SetGridColor(static_cast<Colour>(platform::ReadSettingNumber(settings, "Boje", "Grid")));
+  pen_.SetAxesColor(static_cast<Colour>(platform::ReadSettingNumber(settings, "Boje", "Ose")));
+  lblPerCent_.BackColor = kLabelGrey;
+  lblPerCent_.Visible = false;
+  lblChart_.BackColor = kLabelGrey;
+  lblPointtab_.Caption = "Value Tables:";
+  ResetTable(ms1_, TableLayout::Cartesian);
   // The picture box draws its text over a box of the back colour until the
   // axes are assigned.
   surface_.SetFontTransparent(false);
   Clearwith();
   Redraw();
-  Zezaj = false;
+  draw_.SetZezaj(false);
 }
 
 GraphWindow::~GraphWindow() = default;
@@ -62,36 +48,37 @@ double GraphWindow::Grid(std::string_view name) const {
   return platform::ReadSettingNumber(*services_.settings, "Grid", name);
 }
 
-PaperView GraphWindow::View() const { return PaperView{Zoom, CenterX, CenterY, GridColor, AxesColor}; }
+PaperView GraphWindow::Paper() const {
+  return PaperView{view_.Zoom(), view_.CenterX(), view_.CenterY(), pen_.GridColor(), pen_.AxesColor()};
+}
 
 double GraphWindow::ZoomText() const {
   try {
-    return expr::TextToNumber(lblzm.Caption);
+    return expr::TextToNumber(lblzm_.Caption);
   } catch (const expr::Fault&) {
     return 0;
   }
 }
 
 void GraphWindow::Progress(const std::string& text, bool visible) {
-  lblPerCent.Caption = text;
-  lblPerCent.Visible = visible;
+  lblPerCent_.Caption = text;
+  lblPerCent_.Visible = visible;
   if (services_.host != nullptr) services_.host->ProgressChanged();
 }
 
 // ---- Type and boxes -----------------------------------------------------------
 
 void GraphWindow::optFunk(int index) {
-  if (index < kCartesian || index > kPolar) return;
-  optFunkcije = index;
-  labY.Caption = std::string(kLabY[index - 1]);
-  const bool parametric = index == kParametric;
-  if (!parametric) txtX.Text = "K";
-  txtX.Visible = parametric;
-  LABx.Visible = parametric;
+  if (!boxes_.SetType(index)) return;
   if (services_.host != nullptr) {
     services_.host->TypeChosen(index);
     services_.host->FocusFunctionBox();
   }
+}
+
+void GraphWindow::SetFunctionTexts(std::string_view y, std::string_view x) {
+  boxes_.SetTxtY(y);
+  boxes_.SetTxtX(x);
 }
 
 void GraphWindow::PodeliFje(std::string_view line) {
@@ -99,8 +86,7 @@ void GraphWindow::PodeliFje(std::string_view line) {
   if (semicolon == std::string_view::npos) return;  // not a recent-functions line
   const auto bar = line.find('|', semicolon);
   if (bar == std::string_view::npos || line.empty()) return;
-  txtY.Text = std::string(line.substr(0, semicolon));
-  txtX.Text = std::string(line.substr(semicolon + 1, bar - semicolon - 1));
+  SetFunctionTexts(line.substr(0, semicolon), line.substr(semicolon + 1, bar - semicolon - 1));
   switch (line.back()) {
     case 'n': optFunk(kCartesian); break;
     case 'c': optFunk(kParametric); break;
@@ -109,9 +95,49 @@ void GraphWindow::PodeliFje(std::string_view line) {
   }
 }
 
+void GraphWindow::SetView(double zoom, double centerX, double centerY) {
+  view_.SetZoom(zoom);
+  view_.SetCentre(centerX, centerY);
+  lblzm_.Caption = expr::NumberToText(zoom);
+}
+
+void GraphWindow::ShowLine(OverlayLine which, const LineControl& line) {
+  switch (which) {
+    case OverlayLine::LineY: lineY_ = line; break;
+    case OverlayLine::Line1: line1_ = line; break;
+    case OverlayLine::Line2: line2_ = line; break;
+  }
+}
+
+void GraphWindow::HideLines() {
+  lineY_.Visible = false;
+  line1_.Visible = false;
+  line2_.Visible = false;
+}
+
+void GraphWindow::AdoptListsOf(const GraphWindow& other) {
+  boxes_.AdoptLists(other.boxes_);
+  draw_.SetKolkoFunkc(other.draw_.KolkoFunkc());
+}
+
+// ---- The tools' view of the window ------------------------------------------------
+
+ViewBounds GraphWindow::VisibleBounds() const {
+  return ViewBounds{view_.LeftX(), view_.RightX(surface_.ScaleWidth()), view_.TopY(),
+                    view_.BottomY(surface_.ScaleHeight())};
+}
+
+bool GraphWindow::DrawFunction(int type, std::string_view y, std::string_view x) {
+  if (draw_.Drawing() || type < kCartesian || type > kPolar) return false;
+  optFunk(type);
+  SetFunctionTexts(y, type == kParametric ? x : std::string_view("K"));
+  DrawFromTxtY();
+  return true;
+}
+
 // ---- Evaluation ------------------------------------------------------------------
 
-double GraphWindow::F(double v) { return EvaluateAt(FuncY, v); }
+double GraphWindow::F(double v) { return EvaluateAt(draw_.FuncY(), v); }
 
 double GraphWindow::EvaluateAt(std::string_view evaluationForm, double v) {
   try {
@@ -123,13 +149,16 @@ double GraphWindow::EvaluateAt(std::string_view evaluationForm, double v) {
   }
 }
 
-double GraphWindow::F2(double v, double w) {
+double GraphWindow::F2(double v, double w) { return EvaluateXAt(draw_.FuncX(), v, w); }
+
+double GraphWindow::EvaluateXAt(std::string_view evaluationForm, double v, double w) {
   try {
     // The Cartesian X is "K" itself: its value is the number its text reads,
     // which is what the engine would return for "(" & v & ")". The loop's K
     // has three decimals, and such a value reads back as itself, so the
     // text is needed only for other values.
-    const bool onlyK = FuncX == "K" || FuncX == "k";
+    const std::string_view funcX = evaluationForm;
+    const bool onlyK = funcX == "K" || funcX == "k";
     if (onlyK && std::fabs(v) < 1e12 && std::floor(v * 1000) / 1000 == v) return v;
     char number[expr::kNumberTextMax];
     const std::size_t length = expr::NumberToText(v, number);
@@ -137,7 +166,7 @@ double GraphWindow::F2(double v, double w) {
     char yNumber[expr::kNumberTextMax];
     const std::size_t yLength = expr::NumberToText(w, yNumber);
     // K first, then Y: X may depend on the current Y.
-    return SubstituteAndRun(FuncX, std::string_view(number, length), std::string_view(yNumber, yLength));
+    return SubstituteAndRun(funcX, std::string_view(number, length), std::string_view(yNumber, yLength));
   } catch (const expr::Fault&) {
     return 0;
   }
@@ -172,7 +201,7 @@ double GraphWindow::SubstituteAndRun(std::string_view evaluationForm, std::strin
 
 void GraphWindow::DrawLines() {
   try {
-    if (paper_.DrawLines(View())) Check1 = true;
+    if (paper_.DrawLines(Paper())) check1_ = true;
   } catch (const expr::Fault&) {
     // A view the device cannot hold (a centre moved beyond any pixel) ends
     // the paint where it is.
@@ -180,7 +209,7 @@ void GraphWindow::DrawLines() {
 }
 
 void GraphWindow::Redraw() {
-  if (!Drawing) DrawLines();
+  if (!draw_.Drawing()) DrawLines();
 }
 
 void GraphWindow::Clearwith() { surface_.Clear(); }
@@ -188,37 +217,20 @@ void GraphWindow::Clearwith() { surface_.Clear(); }
 void GraphWindow::ClearGraph(bool whole) {
   if (whole) {
     // The boxes are emptied with their lists, so nothing is left to replay.
-    txtY.Text.clear();
-    txtY.List.clear();
-    txtX.List.clear();
-    cmbR3.List.clear();
-    KolkoFunkc = 0;
-    txtX.Visible = false;
-    lblxy.Caption = "Y (X) =";
+    boxes_.Clear();
+    draw_.SetKolkoFunkc(0);
     optFunk(kCartesian);
-    txtX.Text = "K";
-    lblPointtab.Caption = "Value Tables:";
-    tools::ResetTable(MS1, tools::TableLayout::Cartesian);
+    lblPointtab_.Caption = "Value Tables:";
+    ResetTable(ms1_, TableLayout::Cartesian);
   }
-  LineY.Visible = false;
-  Line1.Visible = false;
-  Line2.Visible = false;
+  HideLines();
   Clearwith();
   Redraw();
 }
 
 // ---- Colours the evaluator switches -------------------------------------------------------
 
-void GraphWindow::Boje2() { Graph_Clr = surface_.BackColor(); }
-void GraphWindow::Boje3() { Graph_Clr = lblBoja.BackColor; }
-
-// ---- Frame ----------------------------------------------------------------------------------
-
-std::string GraphWindow::StatusCaption() const {
-  if (optFunkcije == kParametric) {
-    return labY.Caption + " " + txtY.Text + " ; " + LABx.Caption + " " + txtX.Text;
-  }
-  return labY.Caption + " " + txtY.Text;
-}
+void GraphWindow::Boje2() { pen_.SetGraph_Clr(surface_.BackColor()); }
+void GraphWindow::Boje3() { pen_.SetGraph_Clr(pen_.lblBoja()); }
 
 }  // namespace velmora::graph

@@ -3,61 +3,86 @@
 #include <memory>
 #include <string>
 #include <string_view>
+#include <vector>
 
+#include "expr/formulacontrol.h"
 #include "expr/graphfields.h"
 #include "graph/controls.h"
+#include "graph/drawingguard.h"
+#include "graph/drawstate.h"
+#include "graph/functionboxes.h"
 #include "graph/graphhost.h"
 #include "graph/graphpaper.h"
+#include "graph/graphtooltarget.h"
 #include "graph/historylog.h"
+#include "graph/pencolours.h"
 #include "graph/samplingloop.h"
 #include "graph/surface.h"
 #include "graph/syntaxchecker.h"
+#include "graph/tangentrequest.h"
+#include "graph/valuetable.h"
+#include "graph/viewstate.h"
 #include "platform/inputbox.h"
 #include "platform/messagebox.h"
 #include "platform/recentlist.h"
 #include "platform/settingsstore.h"
-#include "tools/formulacontrol.h"
-#include "tools/valuetable.h"
 
 namespace velmora::graph {
-
-// The function types of optFunkcije.
-enum FunctionType : int { kCartesian = 1, kParametric = 2, kPolar = 3 };
 
 // What a graph window is given: the platform services, its two formula
 // controls, and the window layer's hooks. Pointers may be null where noted.
 struct GraphServices {
-  platform::SettingsStore* settings = nullptr;        // required
-  platform::MessageBox* messages = nullptr;           // required
-  platform::InputBox* input = nullptr;                // required
-  std::unique_ptr<tools::FormulaControl> evaluator1;  // required: every sample
-  std::unique_ptr<tools::FormulaControl> evaluator2;  // may be null: the parametric tangent's second function
-  SyntaxCheckerFactory makeChecker = nullptr;         // null: no check before a draw
-  const HistoryLog* history = nullptr;                // null: no history log
-  platform::RecentList* recent = nullptr;             // null: no recent list
-  GraphHost* host = nullptr;                          // null: nothing to show
-  LoopObserver* observer = nullptr;                   // null: no trace
-  expr::ActiveWindow* activeWindow = nullptr;         // null: this window is the frame's active child
+  platform::SettingsStore* settings = nullptr;       // required
+  platform::MessageBox* messages = nullptr;          // required
+  platform::InputBox* input = nullptr;               // required
+  std::unique_ptr<expr::FormulaControl> evaluator1;  // required: every sample
+  std::unique_ptr<expr::FormulaControl> evaluator2;  // may be null: the parametric tangent's second function
+  SyntaxCheckerFactory makeChecker = nullptr;        // null: no check before a draw
+  const HistoryLog* history = nullptr;               // null: no history log
+  platform::RecentList* recent = nullptr;            // null: no recent list
+  GraphHost* host = nullptr;                         // null: nothing to show
+  LoopObserver* observer = nullptr;                  // null: no trace
+  expr::ActiveWindow* activeWindow = nullptr;        // null: this window is the frame's active child
 };
 
 // The program's services: the formula engine twice and the evaluator's check.
 GraphServices StandardServices(platform::SettingsStore& settings, platform::MessageBox& messages,
                                platform::InputBox& input);
 
-// The graph window, `frmFunc`, without widgets: its state by the names the
-// rest of the program uses, its controls as plain state, and its routines
-// as methods. It draws on a Surface (`pDraw`); a window layer shows the
-// surface and the controls, forwards the user's commands to these methods
-// and implements GraphHost. It is also the field reader the text evaluator
-// uses for rational powers (expr::GraphFields).
+// The fraction keypad's hidden fields, which the text evaluator reads for
+// rational powers: `txtImenilac` (the denominator), `txtY3`, `txtY2` and
+// `lblY3` (whether the rational mode is on).
+struct FractionFields {
+  std::string txtImenilac;
+  std::string txtY3;
+  std::string txtY2;
+  std::string lblY3;
+};
+
+// The line controls over the surface.
+enum class OverlayLine { LineY, Line1, Line2 };
+
+// The graph window, `frmFunc`, without widgets. Its state lives in parts it
+// owns (the view, the pen, the function boxes, the tangent request, the
+// draw state), which others read through the accessors below and change
+// only through the window's commands and setters. It draws on a Surface
+// (`pDraw`); a window layer shows the surface and the controls, forwards the
+// user's commands to these methods and implements GraphHost. It is also the
+// field reader the text evaluator uses for rational powers
+// (expr::GraphFields) and the target the tool windows read and draw through
+// (GraphToolTarget).
 //
 // One thread: the plot loop lets events run once per drawn sample through
 // GraphHost::DoEvents, and `Drawing` makes every command that would touch
 // the surface do nothing meanwhile.
-class GraphWindow final : public expr::GraphFields {
+class GraphWindow final : public expr::GraphFields, public GraphToolTarget {
  public:
   // The title of a box that names none: the program's name.
   static constexpr std::string_view kDefaultTitle = "Velmora";
+  // The graph window's table: the steps and decimals of the Value Tables
+  // window's defaults.
+  static constexpr double kTableStep = 1;
+  static constexpr int kTableDecimals = 3;
 
   // Loads the window: colours and background from the settings, zoom 30,
   // the centre in the middle of the surface, type 1, the history read.
@@ -66,78 +91,86 @@ class GraphWindow final : public expr::GraphFields {
   GraphWindow(const GraphWindow&) = delete;
   GraphWindow& operator=(const GraphWindow&) = delete;
 
-  // ---- State --------------------------------------------------------------
-  double Zoom = 30;      // pixels per user unit, the same on both axes
-  double CenterX = 0;    // pixel column of the user origin
-  double CenterY = 0;    // pixel row of the user origin
-  double zlevel = 30;    // zoom as last shown on the toolbar
-  Colour Graph_Clr = 0;  // colour of the next plot
-  Colour AvBoja = 255;   // colour of the average line
-  Colour GridColor = 0;
-  Colour AxesColor = 0;
-  double GraphLineWidth = 1;
-  std::string FuncY;  // working copies of the expressions
-  std::string FuncX;
-  bool StopCrtanje = false;  // a request to leave the plot loop
-  bool Drawing = false;      // a plot is running
-  bool Plotted = false;      // a plot has finished
-  double Xpoc = 0;           // first and last plotted X, the move taken off
-  double Xkraj = 0;
-  int KolkoFunkc = 0;  // functions drawn since the window was last cleared
-  bool Zezaj = true;   // the window is new
-  double MoveX = 0;    // user coordinates of the centre after moves, 3 decimals
-  double MoveY = 0;
-  std::string MovedText = "Moved:";
-  bool MovedLeft = false;
-  bool MovedRight = false;
-  bool MovedUp = false;
-  bool MovedDown = false;
-  std::string LastMoveInput;  // the last move's answer
-  double LastMoveShift = 0;   // the last move in user units
-  // A request of a tangent or normal, written by its dialog.
-  bool Tngenta = false;
-  bool TngentaP = false;
-  bool Normalka = false;
-  bool NormalkaP = false;
-  std::string TngentaX;
-  std::string TngentaXP;
-  std::string Slopka;
-  std::string fjaT;
-  std::string fja1P;
-  std::string fja2P;
-  std::string fjaTP;
+  // ---- The parts of the state ----------------------------------------------
+  const ViewState& View() const { return view_; }
+  const PenColours& Pen() const { return pen_; }
+  const FunctionBoxes& Boxes() const { return boxes_; }
+  const TangentRequest& Tangent() const { return tangent_; }
+  const DrawState& State() const { return draw_; }
 
-  // ---- Controls -----------------------------------------------------------
-  ComboBox txtY;   // Y (or R) expression; its list is the list of drawn functions
-  ComboBox txtX;   // X expression; "K" and hidden in types 1 and 3
-  ComboBox cmbR3;  // the Y texts of parametric functions, index for index with txtX's list
-  Label labY;      // "Y (X) =", "Y (K) =", "R (K) ="
-  Label LABx;      // "X (K) ="
-  int optFunkcije = kCartesian;
-  Label lblPerCent;   // progress text
-  Label LblChart;     // the coordinate readout under the mouse
-  Label lblzm;        // the zoom factor as text
-  Label lblBoja;      // back colour: the graph colour
-  Label lblxy;        // which box has the focus
-  Label lblPointtab;  // title of the value table
-  tools::ValueTable MS1;
-  std::string rtb;  // the history as shown
-  LineControl LineY;
-  LineControl Line1;
-  LineControl Line2;
-  bool Check1 = false;  // the transparent box
-  ZoomMenu zoomMenu;
-  // The fraction keypad's hidden fields, which the evaluator reads.
-  std::string txtImenilac;
-  std::string txtY3;
-  std::string txtY2;
-  std::string lblY3;
-
+  // ---- The other controls ------------------------------------------------------
+  // `pDraw`: the plot surface; all curves, grid and numbers go on it.
   Surface& pDraw() { return surface_; }
+  const Surface& pDraw() const { return surface_; }
+  // `lblPerCent`: the progress text of a draw ("Done...   40%").
+  const Label& lblPerCent() const { return lblPerCent_; }
+  // `LblChart`: the coordinate readout under the mouse.
+  const Label& LblChart() const { return lblChart_; }
+  // `lblzm`: the zoom as text, hidden; the readouts compute with it.
+  const Label& lblzm() const { return lblzm_; }
+  // `lblPointtab`: the title of the value table; its fore colour follows
+  // the plot colour when colours are random.
+  const Label& lblPointtab() const { return lblPointtab_; }
+  // `MS1`: the value table of the last drawn function.
+  const ValueTable& MS1() const { return ms1_; }
+  // `rtb`: the history log as the window shows it.
+  const std::string& rtb() const { return rtb_; }
+  // `LineY`, `Line1`, `Line2`: the horizontal cross-hair, the tangent mark
+  // and the vertical cross-hair over the surface.
+  const LineControl& LineY() const { return lineY_; }
+  const LineControl& Line1() const { return line1_; }
+  const LineControl& Line2() const { return line2_; }
+  // `Check1`: the transparent-numbers box of the plotting options.
+  bool Check1() const { return check1_; }
+  // `zoomMenu`: the texts and the checked entry of the toolbar's zoom menu.
+  const ZoomMenu& zoomMenu() const { return zoomMenu_; }
+  const FractionFields& Fraction() const { return fraction_; }
+
+  // ---- Changes from the window layer and the frame -------------------------------
+  // Texts typed into the function boxes.
+  void SetFunctionTexts(std::string_view y, std::string_view x);
+  void SettxtY(std::string_view text) { boxes_.SetTxtY(text); }
+  void SettxtX(std::string_view text) { boxes_.SetTxtX(text); }
+  // "Y" or "X": the box that got the focus.
+  void SetFocusBox(char box) { boxes_.SetFocusBox(box); }
+  // A colour the user chose for the grid, the axes or the next plots.
+  void SetGridColor(Colour colour) { pen_.SetGridColor(colour); }
+  void SetAxesColor(Colour colour) { pen_.SetAxesColor(colour); }
+  void ChooseGraphColour(Colour colour) { pen_.ChooseGraphColour(colour); }
+  // The origin's pixel moved with the surface (a resize), in pixels.
+  void ShiftCentre(double dx, double dy) { view_.ShiftCentre(dx, dy); }
+  // A view set whole (a restored view, a tool's own zoom): the zoom, its
+  // text and the origin's pixel. Nothing is repainted.
+  void SetView(double zoom, double centerX, double centerY);
+  // The plot line width as given; a draw takes 0 or less as 1.
+  void SetGraphLineWidth(double width) { pen_.SetGraphLineWidth(width); }
+  // Marks the window busy, as a running draw does, until the guard goes:
+  // for work on the surface outside a draw (a tool's own curve).
+  [[nodiscard]] DrawingGuard Busy() { return DrawingGuard(draw_); }
+  // `Zezaj` while a frame command changes the window.
+  void SetZezaj(bool changing) { draw_.SetZezaj(changing); }
+  void SetTangentRequest(TangentRequest request) { tangent_ = std::move(request); }
+  void SetCheck1(bool transparent) { check1_ = transparent; }
+  void SetFraction(FractionFields fields) { fraction_ = std::move(fields); }
+  // The history emptied (Clear History).
+  void ClearHistoryView() { rtb_.clear(); }
+  // The mouse readout's text and lines.
+  void ShowReadout(std::string text) { lblChart_.Caption = std::move(text); }
+  void ShowLine(OverlayLine which, const LineControl& line);
+  void HideLines();
+  // The lists and count of drawn functions of another window, so that a
+  // replay here draws what it drew.
+  void AdoptListsOf(const GraphWindow& other);
 
   // ---- Drawing ------------------------------------------------------------
+  // `CrtajFJU` ("draw the function"): the draw of a Cartesian or parametric
+  // function from the boxes, with its check, history record, recent line,
+  // lists and table.
   void CrtajFJU();
+  // `CrtajPolar`: the same for R (K), drawn as R sin K against R cos K.
   void CrtajPolar();
+  // `CrtajFJUAuto`, `CrtajPolarAuto`: the replay of a listed function: no
+  // check, no record, no recent line, lists or count.
   void CrtajFJUAuto();
   void CrtajPolarAuto();
   // Enter in txtY: CrtajPolar in type 3, else CrtajFJU.
@@ -151,66 +184,119 @@ class GraphWindow final : public expr::GraphFields {
   // Chooses the function type, 1 to 3.
   void optFunk(int index);
   // Esc or a click on the progress label.
-  void Stop() { StopCrtanje = true; }
+  void Stop() { draw_.RequestStop(); }
 
-  // The evaluation primitives; a failed evaluation gives 0.
+  // The evaluation primitives; a failed evaluation gives 0. `F`: FuncY at
+  // K = v; `F2`: FuncX at K = v with Y = w.
   double F(double v);
   double F2(double v, double w);
   // F on another text of the evaluation form (the mouse copy of a function,
   // FMis): every K becomes the value in brackets, Evaluator1 computes it.
   double EvaluateAt(std::string_view evaluationForm, double v);
+  // F2 on another text: K becomes v, then Y becomes w; a text that is K
+  // alone is v itself.
+  double EvaluateXAt(std::string_view evaluationForm, double v, double w);
 
   // ---- Paper and clearing ---------------------------------------------------
+  // `DrawLines`: the graph paper (grid, axes, numbers) over the picture.
   void DrawLines();
+  // `ClearGraph`: the picture cleared and the paper drawn again; `whole`
+  // also empties the boxes, the lists, the count and the table.
   void ClearGraph(bool whole);
+  // `Clearwith`: the surface cleared, nothing drawn.
   void Clearwith();
+  // `Redraw`: the paper, unless a draw is running.
   void Redraw();
+  // Clear Function: the Y box emptied; Swap Y - X: the two texts exchanged.
+  void ClearFunctionText() { boxes_.SetTxtY(""); }
+  void SwapYX() { boxes_.SwapTexts(); }
 
   // ---- Zoom and move ----------------------------------------------------------
+  // Each command that asks a question is the question (the menu's entry)
+  // and its apply, which the examples and the batch front end call with
+  // the answer they would have typed.
+  // `Zumiraj` ("zoom"): the zoom's text from Zoom, the paper repainted.
   void Zumiraj();
+  // `mnuzoomin`, `mnuzoomout`, `mnuZoomDef`: the presets 50, 15 and 30.
   void mnuzoomin();
   void mnuzoomout();
   void mnuZoomDef();
+  // `mnuFineZoom`: asks "Select zooming factor in range (5-200)." and
+  // applies the answer (ApplyFineZoom).
   void mnuFineZoom();
-  // Fixed zooms of examples: 8, 15, 44, 177.
+  // Fine zoom with an answer: a number from 5 to 200 becomes the zoom; out
+  // of range shows "Input out of range (5-200)!" and keeps the number as the
+  // zoom unpainted; an empty or unreadable answer changes nothing.
+  void ApplyFineZoom(std::string_view answer);
+  // `ZumDec`, `ZumStef`, `ZumGama`, `ZumPuding`: the fixed zooms of the
+  // examples, 8, 15, 44 and 177.
   void ZumDec();
   void ZumStef();
   void ZumGama();
   void ZumPuding();
   // A window becoming active shows its own zoom in the toolbar texts.
   void Activate();
-  double PomeriX(double v) const;
-  double PomeriY(double v) const;
+  // `PomeriX`, `PomeriY` ("shift"): a value with the move taken off.
+  double PomeriX(double v) const { return view_.PomeriX(v); }
+  double PomeriY(double v) const { return view_.PomeriY(v); }
+  // `mnuright`, `mnuleft`, `mnuup`, `mnudown`: ask how many grid steps and
+  // apply the answer (ApplyMove).
   void mnuright();
   void mnuleft();
   void mnuup();
   void mnudown();
+  // A move with an answer: that many grid steps of the X axis, the paper
+  // repainted, "Moved:" extended. An empty answer changes nothing.
+  void ApplyMove(MoveDirection direction, std::string_view answer);
+  // `mnuCenter`: the origin back in the middle, "Moved:" again.
   void mnuCenter();
+  // `mnuPlotWidth`: asks the graph line width until the answer is good or
+  // empty (ApplyPlotWidth).
   void mnuPlotWidth();
+  // The plot width with an answer: a number above 0 becomes GraphLineWidth
+  // and gives true; anything else shows "Invalid input: Line width = ..."
+  // and gives false.
+  bool ApplyPlotWidth(std::string_view answer);
 
   // ---- Tables and history -----------------------------------------------------
+  // `FillValueTable`: MS1 for the Cartesian function in txtY, X from `from`
+  // to `to`; `FillValueTableParam` for the parametric pair, K between the
+  // bounds; `FillValueTablePolar` for R (K) at thirteen angles of one turn.
   void FillValueTable(double from, double to);
   void FillValueTableParam(double top, double bottom);
   void FillValueTablePolar();
+  // `funcSave`: the history record of the last draw in GraphLog.txt, and
+  // rtb read again.
   void funcSave();
-  // The graph window's table: the steps and decimals of the Value Tables
-  // window's defaults.
-  static constexpr double kTableStep = 1;
-  static constexpr int kTableDecimals = 3;
 
   // ---- Frame ---------------------------------------------------------------------
   // The window's caption as the status bar shows it.
-  std::string StatusCaption() const;
+  std::string StatusCaption() const { return boxes_.StatusCaption(); }
   // The zoom as a number from its label (the "zoom text").
   double ZoomText() const;
 
   // ---- expr::GraphFields -----------------------------------------------------------
-  std::string TxtImenilac() override { return txtImenilac; }
-  std::string TxtY3() override { return txtY3; }
-  std::string TxtY2() override { return txtY2; }
-  std::string LblY3() override { return lblY3; }
+  std::string TxtImenilac() override { return fraction_.txtImenilac; }
+  std::string TxtY3() override { return fraction_.txtY3; }
+  std::string TxtY2() override { return fraction_.txtY2; }
+  std::string LblY3() override { return fraction_.lblY3; }
+  // `Boje2`, `Boje3` ("colours"): the plot colour becomes the background
+  // or the chosen graph colour again; the text evaluator calls them for the
+  // inverse secant and cosecant.
   void Boje2() override;
   void Boje3() override;
+
+  // ---- GraphToolTarget ---------------------------------------------------------------
+  std::string FunctionYText() const override { return boxes_.txtY().Text; }
+  std::string FunctionXText() const override { return boxes_.txtX().Text; }
+  int FunctionTypeIndex() const override { return boxes_.optFunkcije(); }
+  std::vector<std::string> DrawnFunctions() const override { return boxes_.txtY().List; }
+  std::vector<std::string> DrawnXTexts() const override { return boxes_.txtX().List; }
+  std::vector<std::string> DrawnParametricY() const override { return boxes_.cmbR3().List; }
+  ViewBounds VisibleBounds() const override;
+  double ZoomFactor() const override { return view_.Zoom(); }
+  bool IsDrawing() const override { return draw_.Drawing(); }
+  bool DrawFunction(int type, std::string_view y, std::string_view x) override;
 
  private:
   // How a plot procedure differs from CrtajFJU around the one loop.
@@ -230,12 +316,12 @@ class GraphWindow final : public expr::GraphFields {
   void Remember(bool polar);
   void AddRecent(bool polar);
   void ZoomPreset(double value, int checked, std::string text);
-  void Move(std::string_view title, std::string_view tag, int axis, int sign);
+  void AskMove(std::string_view title, MoveDirection direction);
   void Repaint();
   double Grid(std::string_view name) const;
-  PaperView View() const;
+  PaperView Paper() const;
   void Progress(const std::string& text, bool visible);
-  tools::FormulaControl& Evaluator1() { return *services_.evaluator1; }
+  expr::FormulaControl& Evaluator1() { return *services_.evaluator1; }
 
   // The window as the frame's active child when no frame gives one.
   class SelfActive final : public expr::ActiveWindow {
@@ -252,6 +338,25 @@ class GraphWindow final : public expr::GraphFields {
   SelfActive self_{*this};
   GraphPaper paper_;
   std::unique_ptr<SyntaxChecker> checker_;
+
+  ViewState view_;
+  PenColours pen_;
+  FunctionBoxes boxes_;
+  TangentRequest tangent_;
+  DrawState draw_;
+  Label lblPerCent_;
+  Label lblChart_;
+  Label lblzm_;
+  Label lblPointtab_;
+  ValueTable ms1_;
+  std::string rtb_;
+  LineControl lineY_;
+  LineControl line1_;
+  LineControl line2_;
+  bool check1_ = false;
+  ZoomMenu zoomMenu_;
+  FractionFields fraction_;
+
   // The last draw was of a polar curve (its record is the polar one).
   bool lastDrawPolar_ = false;
   // The typed texts of the last draw, kept for its history record.

@@ -41,18 +41,18 @@ double Divide(double a, double b) {
 void MouseReadout::MakeMouseFormula() {
   // The same rewriting as a draw: blanks and brackets, upper case, EXP and
   // FIX kept, X as K.
-  mouseY_ = expr::EvaluationForm(expr::CleanUp(w_.txtY.Text));
-  mouseX_ = expr::EvaluationForm(expr::CleanUp(w_.txtX.Text));
+  mouseY_ = expr::EvaluationForm(expr::CleanUp(w_.Boxes().txtY().Text));
+  mouseX_ = expr::EvaluationForm(expr::CleanUp(w_.Boxes().txtX().Text));
 }
 
 void MouseReadout::MouseMove(int button, double x, double y) {
-  if (w_.Drawing) return;
+  if (w_.State().Drawing()) return;
   Surface& s = w_.pDraw();
   const double width = s.ScaleWidth();
   const double height = s.ScaleHeight();
-  // 1.
+  // The function boxes as a draw would read them, in case they changed.
   MakeMouseFormula();
-  // 2. The zoom as its label shows it; the mouse from the middle of the surface.
+  // The zoom as its label shows it; the mouse from the middle of the surface.
   const double z = w_.ZoomText();
   double mx = 0;
   double my = 0;
@@ -62,33 +62,40 @@ void MouseReadout::MouseMove(int button, double x, double y) {
   ResumeNext([&] { v_.my1 = expr::RoundTo(my, 1); });
   ResumeNext([&] { v_.mx5 = expr::RoundTo(mx, 5); });
   ResumeNext([&] { v_.my5 = expr::RoundTo(my, 5); });
-  // 3. A moved centre.
-  if (w_.MovedRight || w_.MovedLeft) {
-    ResumeNext([&] { v_.mx1 = expr::RoundTo(v_.mx1 - w_.MoveX, 1); });
-    ResumeNext([&] { v_.mx5 = expr::RoundTo(v_.mx5 - w_.MoveX, 5); });
+  // A moved centre: the readout counts from the moved origin.
+  if (w_.View().MovedRight() || w_.View().MovedLeft()) {
+    ResumeNext([&] { v_.mx1 = expr::RoundTo(v_.mx1 - w_.View().MoveX(), 1); });
+    ResumeNext([&] { v_.mx5 = expr::RoundTo(v_.mx5 - w_.View().MoveX(), 5); });
   }
-  if (w_.MovedUp || w_.MovedDown) {
-    ResumeNext([&] { v_.my1 = expr::RoundTo(v_.my1 - w_.MoveY, 1); });
-    ResumeNext([&] { v_.my5 = expr::RoundTo(v_.my5 - w_.MoveY, 5); });
+  if (w_.View().MovedUp() || w_.View().MovedDown()) {
+    ResumeNext([&] { v_.my1 = expr::RoundTo(v_.my1 - w_.View().MoveY(), 1); });
+    ResumeNext([&] { v_.my5 = expr::RoundTo(v_.my5 - w_.View().MoveY(), 5); });
   }
-  std::string& text = w_.LblChart.Caption;
-  // 4. The plain readout.
-  if (button != kRightButton || !w_.Plotted) {
+  // The readout as it stands: a branch that computes nothing leaves it, and
+  // every way out shows what it became.
+  std::string text = w_.LblChart().Caption;
+  struct ShowOnExit {
+    GraphWindow& window;
+    std::string& text;
+    ~ShowOnExit() { window.ShowReadout(text); }
+  } show{w_, text};
+  // The plain readout: no right button alone, or nothing plotted yet.
+  if (button != kRightButton || !w_.State().Plotted()) {
     text = "   x = " + T(v_.mx1) + ", y = " + T(v_.my1) + "";
     return;
   }
-  // 5. Parametric: k from the mouse, x (k) and y (k).
-  if (w_.optFunkcije == kParametric) {
+  // Parametric: k from the mouse, x (k) and y (k).
+  if (w_.Boxes().optFunkcije() == kParametric) {
     ResumeNext([&] { v_.xk = expr::RoundTo(w_.EvaluateAt(mouseX_, v_.mx5), 5); });
     ResumeNext([&] { v_.value = expr::RoundTo(w_.EvaluateAt(mouseY_, v_.mx5), 5); });
     text = "   " + std::string(" k = ") + T(v_.mx1) + " [" + T(v_.mx5) + "]; " + " x (k) = " + T(v_.xk) +
            "; y (k) = " + T(v_.value);
-    w_.Line2 = LineControl{x, 0, x, height, true};
+    w_.ShowLine(OverlayLine::Line2, LineControl{x, 0, x, height, true});
     return;
   }
-  // 6. The function at the mouse column and its slope.
-  if (w_.txtY.Text.empty()) return;
-  ResumeNext([&] { v_.tx = Divide(x - w_.CenterX, w_.Zoom); });
+  // The function at the mouse column and its slope.
+  if (w_.Boxes().txtY().Text.empty()) return;
+  ResumeNext([&] { v_.tx = Divide(x - w_.View().CenterX(), w_.View().Zoom()); });
   const auto cut = [](double value) { return std::floor(value * 1000) / 1000; };
   ResumeNext([&] { v_.ty = w_.EvaluateAt(mouseY_, cut(v_.tx)); });
   double y1 = 0;
@@ -96,18 +103,19 @@ void MouseReadout::MouseMove(int button, double x, double y) {
   ResumeNext([&] { y1 = w_.EvaluateAt(mouseY_, cut(v_.tx - kSlopeStep)); });
   ResumeNext([&] { y2 = w_.EvaluateAt(mouseY_, cut(v_.tx + kSlopeStep)); });
   v_.slope = (y2 - y1) / (2 * kSlopeStep);
-  // 7. The tangent mark, 4 units either side of the point, and the vertical
+  // The tangent mark, 4 units either side of the point, and the vertical
   // cross-hair.
-  if (w_.optFunkcije == kCartesian) {
+  if (w_.Boxes().optFunkcije() == kCartesian) {
     const double a = std::atan(v_.slope);
-    const auto px = [&](double ux) { return w_.CenterX + ux * w_.Zoom; };
-    const auto py = [&](double uy) { return w_.CenterY + (-uy) * w_.Zoom; };
-    w_.Line1 = LineControl{px(v_.tx - kMarkHalf * std::cos(a)), py(v_.ty - kMarkHalf * std::sin(a)),
-                           px(v_.tx + kMarkHalf * std::cos(a)), py(v_.ty + kMarkHalf * std::sin(a)), true};
-    w_.Line2 = LineControl{x, 0, x, height, true};
+    const auto px = [&](double ux) { return w_.View().CenterX() + ux * w_.View().Zoom(); };
+    const auto py = [&](double uy) { return w_.View().CenterY() + (-uy) * w_.View().Zoom(); };
+    w_.ShowLine(OverlayLine::Line1,
+                LineControl{px(v_.tx - kMarkHalf * std::cos(a)), py(v_.ty - kMarkHalf * std::sin(a)),
+                            px(v_.tx + kMarkHalf * std::cos(a)), py(v_.ty + kMarkHalf * std::sin(a)), true});
+    w_.ShowLine(OverlayLine::Line2, LineControl{x, 0, x, height, true});
   }
-  // 8. Polar: the angle and the distance of the mouse, not of the curve.
-  if (w_.optFunkcije == kPolar) {
+  // Polar: the angle and the distance of the mouse, not of the curve.
+  if (w_.Boxes().optFunkcije() == kPolar) {
     const double mx5 = v_.mx5;
     const double my5 = v_.my5;
     double a = 0;
@@ -130,27 +138,23 @@ void MouseReadout::MouseMove(int button, double x, double y) {
     text += "; \xC3\xB8 = " + T(v_.angle) + " (" + T(turns) + "*Pi)";
     return;
   }
-  // 9. Cartesian: the value at the mouse.
+  // Cartesian: the value at the mouse.
   ResumeNext([&] { v_.value = expr::RoundTo(w_.EvaluateAt(mouseY_, v_.mx5), 5); });
   if (std::fabs(v_.value) >= kValueLimit) {
     text = "   " + std::string(" (x1 , y1) = (") + T(v_.mx1) + " , Error )";
     return;
   }
-  // 10. The horizontal cross-hair, from the middle of the surface rather
+  // The horizontal cross-hair, from the middle of the surface rather
   // than the centre: with a moved centre it stays in the frame of the plot
   // area's middle.
   ResumeNext([&] {
     const double h = expr::RoundTo(height / 2 + (-(v_.value * z)), 3);
-    w_.LineY = LineControl{0, h, width, h, true};
+    w_.ShowLine(OverlayLine::LineY, LineControl{0, h, width, h, true});
   });
-  // 11.
+  // The Cartesian readout: the mouse and the function's value there.
   text = "   " + std::string(" x = ") + T(v_.mx1) + " [" + T(v_.mx5) + "], " + "y (x) = " + T(v_.value);
 }
 
-void MouseReadout::MouseUp() {
-  w_.LineY.Visible = false;
-  w_.Line1.Visible = false;
-  w_.Line2.Visible = false;
-}
+void MouseReadout::MouseUp() { w_.HideLines(); }
 
 }  // namespace velmora::graph

@@ -71,12 +71,12 @@ void PlottingOptions::Check1Click() { EnableFromCheck1(); }
 
 void PlottingOptions::Check2Click(GraphWindow* active) {
   if (active == nullptr) return;
-  if (Check(kCheckAssignAxes)) {
-    active->Check1 = true;
+  if (Check(2)) {
+    active->SetCheck1(true);
     active->pDraw().SetFontTransparent(true);
   } else {
     // Back to the window's own default: text over a box of the back colour.
-    active->Check1 = false;
+    active->SetCheck1(false);
     active->pDraw().SetFontTransparent(false);
   }
 }
@@ -99,17 +99,19 @@ void PlottingOptions::Reset() {
 
 void PlottingOptions::Apply(platform::SettingsStore& settings, platform::MessageBox& messages,
                             GraphWindow* active) {
-  // 1. Every key: a box as its text, a check as 0 or 1.
+  // Every key: a box as its text, a check as 0 or 1.
   for (std::size_t i = 0; i < texts.size(); ++i)
     platform::SetRegValue(settings, kSection, kTextBoxes[i].key, texts[i]);
   for (const auto& box : kCheckBoxes)
     platform::SetRegValue(settings, kSection, box.key, Check(box.number) ? "1" : "0");
   if (active == nullptr) return;
-  // 2-3.
+  // The active window's numbers are printed transparent, and its own box
+  // follows the dialog's.
   active->pDraw().SetFontTransparent(true);
-  if (Check(kCheckAssignAxes)) active->Check1 = true;
-  // 4-5.
-  if (ReadSettingNumber(settings, kSection, grid::kAutored) == 1) {
+  if (Check(2)) active->SetCheck1(true);
+  // Redrawn at once in the new settings: with AutoRedraw the functions come
+  // back; without it they would be lost, so the user is asked first.
+  if (platform::ReadSettingNumber(settings, kSection, "Autored") == 1) {
     active->Clearwith();
     active->DrawLines();
     active->RedrawFunc();

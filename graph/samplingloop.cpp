@@ -91,9 +91,9 @@ LoopResult SamplingLoop::Run() {
   GraphWindow& w = window_;
   Surface& s = w.surface_;
   LoopResult result;
-  const double start = -w.CenterX / w.Zoom;
-  const double step = 1 / w.Zoom;
-  const double end = (s.ScaleWidth() - w.CenterX) / w.Zoom;
+  const double start = -w.view_.CenterX() / w.view_.Zoom();
+  const double step = 1 / w.view_.Zoom();
+  const double end = (s.ScaleWidth() - w.view_.CenterX()) / w.view_.Zoom();
   const long passes = PassCount(start, end, step);
 
   bool penUp = true;       // the last sample was off the plot vertically
@@ -107,24 +107,25 @@ LoopResult SamplingLoop::Run() {
   for (long pass = 0; pass < passes; ++pass, k += step) {
     ++result.passes;
     PassAction action = PassAction::Skip;
-    // 1. K cut to three decimals toward minus infinity.
+    // K cut to three decimals toward minus infinity.
     const double kr = std::floor(k * 1000) / 1000;
     y = strategy_.SampleY(kr);
-    // 2-3. A value that is not finite, an exact 0 (how a failed evaluation
+    // A value that is not finite, an exact 0 (how a failed evaluation
     // comes back) or one beyond the limit is skipped.
     if (!NotFinite(y) && y != 0 && !(std::fabs(y) > kLimit)) {
-      // 4-5.
+      // X of the sample (K itself in Cartesian type), and both in pixels.
       x = strategy_.SampleX(kr, std::floor(y * 1000) / 1000);
-      ResumeNext([&] { xp = Checked(w.CenterX + Checked(x * w.Zoom)); });
-      ResumeNext([&] { yp = Checked(w.CenterY + (-y) * w.Zoom); });
-      // 6.
+      ResumeNext([&] { xp = Checked(w.view_.CenterX() + Checked(x * w.view_.Zoom())); });
+      ResumeNext([&] { yp = Checked(w.view_.CenterY() + (-y) * w.view_.Zoom()); });
+      // The first plotted X of a Cartesian curve, for the value table.
       if (strategy_.TakesXpoc() && !first) {
-        ResumeNext([&] { w.Xpoc = w.PomeriX(Checked((xp - s.ScaleWidth() / 2) / w.ZoomText())); });
+        ResumeNext(
+            [&] { w.draw_.SetXpoc(w.view_.PomeriX(Checked((xp - s.ScaleWidth() / 2) / w.ZoomText()))); });
         first = true;
       }
-      // 7. A fault in the range test takes the branch, as the platform's
+      // Join, move or lift the pen. A fault in the range test takes the branch, as the platform's
       // resume-next does.
-      ResumeNext([&] { s.SetDrawWidth(expr::ToShort(w.GraphLineWidth)); });
+      ResumeNext([&] { s.SetDrawWidth(expr::ToShort(w.pen_.GraphLineWidth())); });
       bool inRange = true;
       ResumeNext([&] {
         const float narrowed = ToSingle(yp);
@@ -134,7 +135,7 @@ LoopResult SamplingLoop::Run() {
       if (penUp) {
         if (inRange) {
           if (!notStarted) {
-            ResumeNext([&] { s.LineTo(xp, yp, w.Graph_Clr); });
+            ResumeNext([&] { s.LineTo(xp, yp, w.pen_.Graph_Clr()); });
             action = PassAction::Line;
           } else {
             s.SetCurrentX(xp);
@@ -150,7 +151,7 @@ LoopResult SamplingLoop::Run() {
           progress = false;
         }
       } else {
-        ResumeNext([&] { s.LineTo(xp, yp, w.Graph_Clr); });
+        ResumeNext([&] { s.LineTo(xp, yp, w.pen_.Graph_Clr()); });
         action = PassAction::Line;
         if (!inRange) {
           s.SetCurrentX(xp);
@@ -158,23 +159,23 @@ LoopResult SamplingLoop::Run() {
           penUp = true;
         }
       }
-      // 8. Progress, and events run: only samples that get here.
+      // Progress, and events run: only samples that get here.
       if (progress) {
-        w.lblPerCent.Caption = ProgressText(k, w.CenterX, w.Zoom, s.ScaleWidth());
+        w.lblPerCent_.Caption = ProgressText(k, w.view_.CenterX(), w.view_.Zoom(), s.ScaleWidth());
         if (w.services_.host != nullptr) {
           w.services_.host->ProgressChanged();
           w.services_.host->DoEvents();
         }
       }
     }
-    // 10. The pen for the next segment: invisible after a sample whose text
+    // The pen for the next segment: invisible after a sample whose text
     // reads beyond the limit or whose X is not finite.
     const bool invisible = TextAboveLimit(y) || NotFinite(x);
     ResumeNext([&] { s.SetDrawStyle(invisible ? kInvisible : kSolid); });
     if (w.services_.observer != nullptr)
       w.services_.observer->Pass({kr, y, x, xp, yp, action, s.DrawStyle()});
-    // 11.
-    if (w.StopCrtanje) {
+    // A Stop (Esc, the progress label) ends the loop after this sample.
+    if (w.draw_.StopCrtanje()) {
       result.stopped = true;
       break;
     }

@@ -8,8 +8,8 @@ GraphServices StandardServices(platform::SettingsStore& settings, platform::Mess
   services.settings = &settings;
   services.messages = &messages;
   services.input = &input;
-  services.evaluator1 = tools::MakeFormulaControl();
-  services.evaluator2 = tools::MakeFormulaControl();
+  services.evaluator1 = expr::MakeFormulaControl();
+  services.evaluator2 = expr::MakeFormulaControl();
   services.makeChecker = &MakeEvaluatorChecker;
   return services;
 }

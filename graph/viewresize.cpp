@@ -20,24 +20,21 @@ ViewResize::Plan ViewResize::PlanFor(double oldWidth, double oldHeight, double n
 }
 
 void ViewResize::Apply(GraphWindow& window, const Plan& plan) {
-  window.CenterX += plan.shiftX;
-  window.CenterY += plan.shiftY;
+  window.ShiftCentre(plan.shiftX, plan.shiftY);
   Surface& s = window.pDraw();
   s.SetCurrentX(s.CurrentX() + plan.pictureDx);
   s.SetCurrentY(s.CurrentY() + plan.pictureDy);
 }
 
 bool ViewResize::RepaintWhenSettled(const GraphWindow& window, platform::SettingsStore& settings) {
-  if (window.Drawing) return false;
-  return window.KolkoFunkc == 0 ||
-         ReadSettingNumber(settings, platform::keys::kGrid, platform::keys::grid::kAutored) == 1;
+  if (window.State().Drawing()) return false;
+  return window.State().KolkoFunkc() == 0 || platform::ReadSettingNumber(settings, "Grid", "Autored") == 1;
 }
 
 void ViewResize::Repaint(GraphWindow& window, platform::SettingsStore& settings) {
   window.Clearwith();
   window.DrawLines();
-  if (window.KolkoFunkc > 0 &&
-      ReadSettingNumber(settings, platform::keys::kGrid, platform::keys::grid::kAutored) == 1)
+  if (window.State().KolkoFunkc() > 0 && platform::ReadSettingNumber(settings, "Grid", "Autored") == 1)
     window.RedrawFunc();
 }
 

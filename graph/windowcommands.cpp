@@ -21,7 +21,7 @@ Colour DefaultColour(std::string_view key) {
 // ---- Colours ------------------------------------------------------------------------
 
 bool WindowCommands::ChooseColour(std::uint32_t& colour) {
-  if (w_.Drawing || colours_ == nullptr) return false;
+  if (w_.State().Drawing() || colours_ == nullptr) return false;
   const auto chosen = colours_->Choose(colour);
   if (!chosen) return false;
   colour = *chosen & 0xFFFFFF;
@@ -42,37 +42,35 @@ bool WindowCommands::mnuBojeBack() {
 }
 
 bool WindowCommands::mnuBojeGrid() {
-  std::uint32_t colour = w_.GridColor;
+  std::uint32_t colour = w_.Pen().GridColor();
   if (!ChooseColour(colour)) return false;
-  w_.GridColor = colour;
+  w_.SetGridColor(colour);
   RepaintPaper();
   return true;
 }
 
 bool WindowCommands::mnuBojeAxes() {
-  std::uint32_t colour = w_.AxesColor;
+  std::uint32_t colour = w_.Pen().AxesColor();
   if (!ChooseColour(colour)) return false;
-  w_.AxesColor = colour;
+  w_.SetAxesColor(colour);
   RepaintPaper();
   return true;
 }
 
 bool WindowCommands::mnuBojeGraph() {
   // The dialog starts from the chosen colour, not from a random one.
-  std::uint32_t colour = w_.lblBoja.BackColor;
+  std::uint32_t colour = w_.Pen().lblBoja();
   if (!ChooseColour(colour)) return false;
-  w_.Graph_Clr = colour;
-  w_.lblBoja.BackColor = colour;
+  w_.ChooseGraphColour(colour);
   return true;
 }
 
 void WindowCommands::mnuBojeDef() {
-  if (w_.Drawing) return;
-  w_.pDraw().SetBackColor(DefaultColour(platform::keys::boje::kPozadina));
-  w_.Graph_Clr = DefaultColour(platform::keys::boje::kGrafik);
-  w_.lblBoja.BackColor = w_.Graph_Clr;
-  w_.GridColor = DefaultColour(platform::keys::boje::kGrid);
-  w_.AxesColor = DefaultColour(platform::keys::boje::kOse);
+  if (w_.State().Drawing()) return;
+  w_.pDraw().SetBackColor(DefaultColour("Pozadina"));
+  w_.ChooseGraphColour(DefaultColour("Grafik"));
+  w_.SetGridColor(DefaultColour("Grid"));
+  w_.SetAxesColor(DefaultColour("Ose"));
   RepaintPaper();
 }
 
@@ -80,15 +78,15 @@ void WindowCommands::Sacboje() {
   const auto store = [&](std::string_view key, Colour colour) {
     platform::SetRegValue(settings_, kColours, key, std::to_string(colour & 0xFFFFFF));
   };
-  store(platform::keys::boje::kPozadina, w_.pDraw().BackColor());
-  store(platform::keys::boje::kGrafik, w_.lblBoja.BackColor);
-  store(platform::keys::boje::kGrid, w_.GridColor);
-  store(platform::keys::boje::kOse, w_.AxesColor);
+  store("Pozadina", w_.pDraw().BackColor());
+  store("Grafik", w_.Pen().lblBoja());
+  store("Grid", w_.Pen().GridColor());
+  store("Ose", w_.Pen().AxesColor());
 }
 
 void WindowCommands::ColourMenu(ColourEntry entry) {
-  if (w_.Drawing) return;
-  w_.Zezaj = true;
+  if (w_.State().Drawing()) return;
+  w_.SetZezaj(true);
   bool changed = true;
   switch (entry) {
     case ColourEntry::Background: changed = mnuBojeBack(); break;
@@ -99,16 +97,16 @@ void WindowCommands::ColourMenu(ColourEntry entry) {
   }
   if (changed) {
     Sacboje();
-    if (w_.KolkoFunkc > 0) w_.RedrawFunc();
+    if (w_.State().KolkoFunkc() > 0) w_.RedrawFunc();
   }
-  w_.Zezaj = false;
+  w_.SetZezaj(false);
 }
 
 // ---- Edit menu ---------------------------------------------------------------------------
 
 void WindowCommands::ClearAll() {
-  if (w_.Drawing) return;
-  if (w_.KolkoFunkc > 0) {
+  if (w_.State().Drawing()) return;
+  if (w_.State().KolkoFunkc() > 0) {
     const auto answer = messages_.Show(std::string(kClearAllQuestion), std::string(kClearAllTitle),
                                        platform::MsgIcon::Question, platform::MsgButtons::YesNo);
     if (answer != platform::MsgResult::Yes) return;
@@ -117,25 +115,24 @@ void WindowCommands::ClearAll() {
 }
 
 void WindowCommands::ClearScreen() {
-  if (w_.Drawing) return;
-  w_.Zezaj = true;
+  if (w_.State().Drawing()) return;
+  w_.SetZezaj(true);
   w_.ClearGraph(false);
-  w_.Zezaj = false;
+  w_.SetZezaj(false);
 }
 
 void WindowCommands::mnuclhistory() {
-  if (w_.Drawing) return;
+  if (w_.State().Drawing()) return;
   const auto answer =
       messages_.Show(std::string(kClearHistoryQuestion), std::string(GraphWindow::kDefaultTitle),
                      platform::MsgIcon::Question, platform::MsgButtons::YesNo);
   if (answer != platform::MsgResult::Yes) return;
   if (history_ != nullptr) history_->Clear();
-  w_.rtb.clear();
+  w_.ClearHistoryView();
 }
 
 bool WindowCommands::AskBeforeErasing() {
-  if (w_.KolkoFunkc > 0 &&
-      ReadSettingNumber(settings_, platform::keys::kGrid, platform::keys::grid::kAutored) == 0) {
+  if (w_.State().KolkoFunkc() > 0 && platform::ReadSettingNumber(settings_, "Grid", "Autored") == 0) {
     const auto answer = messages_.Show(std::string(kClearGridQuestion), std::string(kClearGridTitle),
                                        platform::MsgIcon::None, platform::MsgButtons::OkCancel);
     if (answer != platform::MsgResult::Ok) return false;
@@ -144,36 +141,36 @@ bool WindowCommands::AskBeforeErasing() {
 }
 
 void WindowCommands::ClearGrid() {
-  if (w_.Drawing || !AskBeforeErasing()) return;
+  if (w_.State().Drawing() || !AskBeforeErasing()) return;
   w_.Clearwith();
   if (ReadSettingNumber(settings_, platform::keys::kGrid, platform::keys::grid::kAutored) == 1)
     w_.RedrawFunc();
 }
 
 void WindowCommands::RedrawGrid() {
-  if (w_.Drawing || !AskBeforeErasing()) return;
+  if (w_.State().Drawing() || !AskBeforeErasing()) return;
   w_.Redraw();
   if (ReadSettingNumber(settings_, platform::keys::kGrid, platform::keys::grid::kAutored) == 1)
     w_.RedrawFunc();
 }
 
 void WindowCommands::ClearFju() {
-  if (w_.Drawing) return;
+  if (w_.State().Drawing()) return;
   const auto answer = messages_.Show(std::string(kClearFunctionQuestion), std::string(kClearFunctionTitle),
                                      platform::MsgIcon::None, platform::MsgButtons::OkCancel);
   if (answer != platform::MsgResult::Ok) return;
-  w_.txtY.Text.clear();
+  w_.ClearFunctionText();
 }
 
 void WindowCommands::SwapYX() {
-  if (w_.Drawing) return;
-  std::swap(w_.txtY.Text, w_.txtX.Text);
+  if (w_.State().Drawing()) return;
+  w_.SwapYX();
 }
 
 // ---- Pictures ---------------------------------------------------------------------------------
 
 bool WindowCommands::Sav1(const PictureWriter& write) {
-  if (w_.Drawing || files_ == nullptr) return false;
+  if (w_.State().Drawing() || files_ == nullptr) return false;
   const auto chosen = files_->Save(std::string(kSaveTitle), std::string(kSaveFilter), "", "");
   if (!chosen || chosen->empty()) return false;
   std::filesystem::path path(*chosen);

@@ -108,7 +108,7 @@ FrmFunc::FrmFunc(FrmFuncServices services, QWidget* parent)
   readout_ = std::make_unique<graph::MouseReadout>(*logic_);
   commands_ = std::make_unique<graph::WindowCommands>(*logic_, *services_.settings, *services_.messages,
                                                       services_.colours, services_.files, services_.history);
-  pDraw_->SetLines(&logic_->LineY, &logic_->Line1, &logic_->Line2);
+  pDraw_->SetLines(&logic_->LineY(), &logic_->Line1(), &logic_->Line2());
   ConnectWidgets();
   SyncFromLogic();
   FocusFunctionBox();
@@ -240,10 +240,10 @@ void FrmFunc::ConnectWidgets() {
   txtX_->installEventFilter(this);
   // Typing goes to the logic at once; during a draw the boxes are read-only.
   connect(txtY_->lineEdit(), &QLineEdit::textEdited, this, [this](const QString& text) {
-    if (!syncing_ && !logic_->Drawing) logic_->txtY.Text = S(text);
+    if (!syncing_ && !logic_->State().Drawing()) logic_->SettxtY(S(text));
   });
   connect(txtX_->lineEdit(), &QLineEdit::textEdited, this, [this](const QString& text) {
-    if (!syncing_ && !logic_->Drawing) logic_->txtX.Text = S(text);
+    if (!syncing_ && !logic_->State().Drawing()) logic_->SettxtX(S(text));
   });
   // Only a choice made in the open list is the list's click. The editable
   // box also reports `activated` when editing ends (the focus leaving for
@@ -254,8 +254,8 @@ void FrmFunc::ConnectWidgets() {
   txtY_->view()->viewport()->installEventFilter(this);
   connect(txtY_, &QComboBox::activated, this, &FrmFunc::ListPicked);
   connect(txtX_, &QComboBox::activated, this, [this](int index) {
-    if (syncing_ || logic_->Drawing || index < 0) return;
-    logic_->txtX.Text = S(txtX_->itemText(index));
+    if (syncing_ || logic_->State().Drawing() || index < 0) return;
+    logic_->SettxtX(S(txtX_->itemText(index)));
   });
   for (int i = 0; i < 3; ++i) {
     connect(types_[i], &QRadioButton::clicked, this, [this, i] { TypeClicked(i + 1); });
@@ -301,9 +301,9 @@ bool FrmFunc::eventFilter(QObject* watched, QEvent* event) {
       return true;
     }
   }
-  if ((inY || inX) && event->type() == QEvent::FocusIn && !logic_->Drawing) {
+  if ((inY || inX) && event->type() == QEvent::FocusIn && !logic_->State().Drawing()) {
     // XYklik: the box with the focus is where C1 inserts.
-    logic_->lblxy.Caption.assign(1, inY ? 'Y' : 'X');
+    logic_->SetFocusBox(inY ? 'Y' : 'X');
   }
   return QWidget::eventFilter(watched, event);
 }
@@ -327,36 +327,37 @@ void FrmFunc::SyncFromLogic() {
   const QSignalBlocker blockX(txtX_);
   syncing_ = true;
   graph::GraphWindow& w = *logic_;
-  SyncBox(txtY_, w.txtY.Text, w.txtY.List);
-  SyncBox(txtX_, w.txtX.Text, w.txtX.List);
-  labY_->setText(Q(w.labY.Caption));
-  LABx_->setText(Q(w.LABx.Caption));
-  txtX_->setVisible(w.txtX.Visible);
-  LABx_->setVisible(w.LABx.Visible);
+  const graph::FunctionBoxes& boxes = w.Boxes();
+  SyncBox(txtY_, boxes.txtY().Text, boxes.txtY().List);
+  SyncBox(txtX_, boxes.txtX().Text, boxes.txtX().List);
+  labY_->setText(Q(boxes.labY().Caption));
+  LABx_->setText(Q(boxes.LABx().Caption));
+  txtX_->setVisible(boxes.txtX().Visible);
+  LABx_->setVisible(boxes.LABx().Visible);
   for (int i = 0; i < 3; ++i) {
     const QSignalBlocker block(types_[i]);
-    types_[i]->setChecked(w.optFunkcije == i + 1);
+    types_[i]->setChecked(boxes.optFunkcije() == i + 1);
   }
-  txtImenilac_->setText(Q(w.txtImenilac));
-  txtY2_->setText(Q(w.txtY2));
-  txtY3_->setText(Q(w.txtY3));
-  lblY3_->setText(Q(w.lblY3));
-  lblPointtab_->setText(Q(w.lblPointtab.Caption));
+  txtImenilac_->setText(Q(w.Fraction().txtImenilac));
+  txtY2_->setText(Q(w.Fraction().txtY2));
+  txtY3_->setText(Q(w.Fraction().txtY3));
+  lblY3_->setText(Q(w.Fraction().lblY3));
+  lblPointtab_->setText(Q(w.lblPointtab().Caption));
   QPalette palette = lblPointtab_->palette();
-  palette.setColor(QPalette::WindowText, ToQColor(w.lblPointtab.ForeColor));
+  palette.setColor(QPalette::WindowText, ToQColor(w.lblPointtab().ForeColor));
   lblPointtab_->setPalette(palette);
-  LblChart_->setText(Q(w.LblChart.Caption));
+  LblChart_->setText(Q(w.LblChart().Caption));
   ApplyProgress();
   SyncTable();
   SyncHistory();
-  txtY_->lineEdit()->setReadOnly(w.Drawing);
-  txtX_->lineEdit()->setReadOnly(w.Drawing);
+  txtY_->lineEdit()->setReadOnly(w.State().Drawing());
+  txtX_->lineEdit()->setReadOnly(w.State().Drawing());
   syncing_ = false;
   pDraw_->update();
 }
 
 void FrmFunc::SyncTable() {
-  const tools::ValueTable& table = logic_->MS1;
+  const graph::ValueTable& table = logic_->MS1();
   const int rows = std::max(table.Rows() - 1, 0);
   const int cols = table.Cols();
   MS1_->setColumnCount(cols);
@@ -378,8 +379,8 @@ void FrmFunc::SyncTable() {
 }
 
 void FrmFunc::SyncHistory() {
-  if (logic_->rtb == shownHistory_) return;
-  shownHistory_ = logic_->rtb;
+  if (logic_->rtb() == shownHistory_) return;
+  shownHistory_ = logic_->rtb();
   rtb_->setPlainText(Q(shownHistory_));
   // The newest record in view: the caret at the end.
   QTextCursor cursor = rtb_->textCursor();
@@ -389,7 +390,7 @@ void FrmFunc::SyncHistory() {
 }
 
 void FrmFunc::ApplyProgress() {
-  const graph::Label& label = logic_->lblPerCent;
+  const graph::Label& label = logic_->lblPerCent();
   const QString text = Q(label.Caption);
   if (lblPerCent_->text() != text) lblPerCent_->setText(text);
   lblPerCent_->setVisible(label.Visible);
@@ -417,7 +418,7 @@ void FrmFunc::DoEvents() {
 }
 
 void FrmFunc::ProgressChanged() {
-  const bool drawing = logic_->Drawing;
+  const bool drawing = logic_->State().Drawing();
   if (drawing && !drawShown_) {
     DrawStarted();
   } else if (!drawing && drawShown_) {
@@ -458,9 +459,9 @@ void FrmFunc::TypeChosen(int type) {
 
 void FrmFunc::FocusFunctionBox() {
   if (txtY_ == nullptr) return;
-  if (logic_ && txtY_->currentText() != Q(logic_->txtY.Text)) {
+  if (logic_ && txtY_->currentText() != Q(logic_->Boxes().txtY().Text)) {
     const QSignalBlocker block(txtY_);
-    txtY_->setEditText(Q(logic_->txtY.Text));
+    txtY_->setEditText(Q(logic_->Boxes().txtY().Text));
   }
   txtY_->setFocus(Qt::OtherFocusReason);
   txtY_->lineEdit()->end(false);
@@ -474,14 +475,14 @@ void FrmFunc::ShowStatusText(const std::string& text) {
 
 void FrmFunc::EnterInTxtY() {
   // A second Enter during a draw changes nothing, not even the texts.
-  if (logic_->Drawing) return;
+  if (logic_->State().Drawing()) return;
   TakeBoxes();
   logic_->DrawFromTxtY();
   Done();
 }
 
 void FrmFunc::EnterInTxtX() {
-  if (logic_->Drawing) return;
+  if (logic_->State().Drawing()) return;
   TakeBoxes();
   logic_->CrtajFJU();
   Done();
@@ -490,12 +491,11 @@ void FrmFunc::EnterInTxtX() {
 void FrmFunc::TakeBoxes() {
   // The boxes as they stand: typing reaches the logic as it happens, but a
   // text set by a program (a paste, an input method) may not have.
-  logic_->txtY.Text = S(txtY_->currentText());
-  logic_->txtX.Text = S(txtX_->currentText());
+  logic_->SetFunctionTexts(S(txtY_->currentText()), S(txtX_->currentText()));
 }
 
 void FrmFunc::TypeClicked(int index) {
-  if (logic_->Drawing) {
+  if (logic_->State().Drawing()) {
     SyncFromLogic();  // the type stays while a draw runs
     return;
   }
@@ -505,38 +505,38 @@ void FrmFunc::TypeClicked(int index) {
 
 void FrmFunc::ListPicked(int index) {
   if (syncing_ || index < 0) return;
-  if (logic_->Drawing) {
+  if (logic_->State().Drawing()) {
     SyncFromLogic();
     return;
   }
   if (!listChoice_) {
     // Editing ended on a text of the list, or an arrow key stepped through
     // it: the box shows that text, and nothing is drawn.
-    logic_->txtY.Text = S(txtY_->currentText());
+    logic_->SettxtY(S(txtY_->currentText()));
     return;
   }
   listChoice_ = false;
-  logic_->txtY.Text = S(txtY_->itemText(index));
+  logic_->SettxtY(S(txtY_->itemText(index)));
   logic_->txtY_Click();
   Done();
 }
 
 void FrmFunc::FunctionNamePicked(int index) {
-  if (index < 0 || logic_->Drawing) return;
-  QComboBox* box = logic_->lblxy.Caption == "X" && txtX_->isVisible() ? txtX_ : txtY_;
+  if (index < 0 || logic_->State().Drawing()) return;
+  QComboBox* box = logic_->Boxes().lblxy().Caption == "X" && txtX_->isVisible() ? txtX_ : txtY_;
   box->lineEdit()->insert(C1_->itemText(index));
   if (box == txtY_) {
-    logic_->txtY.Text = S(box->currentText());
+    logic_->SettxtY(S(box->currentText()));
   } else {
-    logic_->txtX.Text = S(box->currentText());
+    logic_->SettxtX(S(box->currentText()));
   }
   box->setFocus(Qt::OtherFocusReason);
 }
 
 void FrmFunc::MouseMoved(int button, double x, double y) {
-  if (logic_->Drawing) return;
+  if (logic_->State().Drawing()) return;
   readout_->MouseMove(button, x, y);
-  LblChart_->setText(Q(logic_->LblChart.Caption));
+  LblChart_->setText(Q(logic_->LblChart().Caption));
   pDraw_->update();
 }
 
@@ -558,7 +558,7 @@ void FrmFunc::SurfaceResized(int /*oldWidth*/, int /*oldHeight*/, int width, int
   const auto plan = graph::ViewResize::PlanFor(fromWidth, fromHeight, width, height);
   surface_->Resize(width, height, plan.pictureDx, plan.pictureDy);
   graph::ViewResize::Apply(*logic_, plan);
-  if (!logic_->Drawing && logic_->KolkoFunkc == 0) {
+  if (!logic_->State().Drawing() && logic_->State().KolkoFunkc() == 0) {
     // Only the paper: it costs well under a millisecond, so an empty window
     // follows the size at once.
     graph::ViewResize::Repaint(*logic_, *services_.settings);
@@ -569,7 +569,7 @@ void FrmFunc::SurfaceResized(int /*oldWidth*/, int /*oldHeight*/, int width, int
 }
 
 void FrmFunc::SizeSettled() {
-  if (logic_->Drawing) {
+  if (logic_->State().Drawing()) {
     settle_->start();  // after the draw
     return;
   }
@@ -590,7 +590,7 @@ void FrmFunc::showEvent(QShowEvent* event) {
 }
 
 void FrmFunc::closeEvent(QCloseEvent* event) {
-  if (logic_->Drawing) {
+  if (logic_->State().Drawing()) {
     // The loop runs inside this window's event pump: stop it, and close
     // when it has ended.
     logic_->Stop();
@@ -605,7 +605,7 @@ void FrmFunc::closeEvent(QCloseEvent* event) {
 // ---- Commands ------------------------------------------------------------------------------
 
 void FrmFunc::DrawFunction() {
-  if (logic_->Drawing) return;
+  if (logic_->State().Drawing()) return;
   logic_->CrtajFJU();
   Done();
 }
@@ -647,7 +647,7 @@ void FrmFunc::ColourMenu(int index) {
 }
 
 void FrmFunc::mnuPlotWidth() {
-  if (logic_->Drawing) return;
+  if (logic_->State().Drawing()) return;
   logic_->mnuPlotWidth();
   Done();
 }
@@ -706,7 +706,7 @@ bool FrmFunc::Sav1() {
 }
 
 FrmGridOpt* FrmFunc::OpenPlottingOptions() {
-  if (logic_->Drawing) return nullptr;
+  if (logic_->State().Drawing()) return nullptr;
   auto* dialog = new FrmGridOpt(*services_.settings, *services_.messages, logic_.get(), this);
   dialog->setAttribute(Qt::WA_DeleteOnClose);
   dialog->setWindowModality(Qt::ApplicationModal);

@@ -123,7 +123,18 @@ void QImageSurface::PaintLine(double x1, double y1, double x2, double y2, graph:
     p.setPen(Pen(colour));
     penKey_ = key;
   }
-  p.drawLine(QPointF(x1, y1), QPointF(x2, y2));
+  // Between whole pixels, both ends painted: Qt's aliased line leaves out
+  // its last pixel (and rounds fractional ends its own way), which broke a
+  // curve wherever two samples lay about one pixel apart.
+  const QPoint from(PixelOf(x1), PixelOf(y1));
+  const QPoint to(PixelOf(x2), PixelOf(y2));
+  p.drawLine(from, to);
+  if (DrawStyle() == graph::kSolid) {
+    const int width = std::max(DrawWidth(), 1);
+    const QColor ink = ToQColor(colour);
+    for (const QPoint& end : {from, to})
+      p.fillRect(QRect(end.x() - (width - 1) / 2, end.y() - (width - 1) / 2, width, width), ink);
+  }
 }
 
 void QImageSurface::PaintCircle(double x, double y, double radius, graph::Colour colour) {

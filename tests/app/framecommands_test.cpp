@@ -39,7 +39,7 @@ class FakeChild final : public GraphChild {
   void SyncFromLogic() override { ++syncs; }
 
   void Draw(const std::string& y) {
-    logic->txtY.Text = y;
+    logic->SettxtY(y);
     logic->DrawFromTxtY();
   }
   // Lines of the plot colour on the picture as it stands: after the last clear.
@@ -47,7 +47,7 @@ class FakeChild final : public GraphChild {
     std::size_t count = 0;
     for (const auto& op : surface.Ops()) {
       if (op.kind == RecordingSurface::Kind::Clear) count = 0;
-      if (op.kind == RecordingSurface::Kind::Line && op.colour == logic->Graph_Clr) ++count;
+      if (op.kind == RecordingSurface::Kind::Line && op.colour == logic->Pen().Graph_Clr()) ++count;
     }
     return count;
   }
@@ -121,10 +121,10 @@ TEST(FrameCommands, ZoomReplaysTheFunctionsWithAutoRedrawAndLeavesBlankPaperWith
     f.child.settings.Store("Grid", "Autored", autored ? "1" : "0");
     f.child.Draw("SinX");
     f.commands.Run(Command::ZoomIn, &f.child);
-    EXPECT_EQ(f.child.logic->Zoom, 50);
-    EXPECT_EQ(f.child.logic->zoomMenu.ZoomIn, "> Zoom&In (50)");
+    EXPECT_EQ(f.child.logic->View().Zoom(), 50);
+    EXPECT_EQ(f.child.logic->zoomMenu().ZoomIn, "> Zoom&In (50)");
     EXPECT_EQ(f.child.CurveLines() > 0, autored);
-    EXPECT_FALSE(f.child.logic->Zezaj);
+    EXPECT_FALSE(f.child.logic->State().Zezaj());
     EXPECT_GT(f.child.syncs, 0);
   }
 }
@@ -135,20 +135,20 @@ TEST(FrameCommands, MoveRightAsksAndShowsItsStatusText) {
   f.commands.Run(Command::MoveRight, &f.child);
   ASSERT_EQ(f.child.input.AskedBoxes().size(), 1u);
   EXPECT_EQ(f.child.input.AskedBoxes()[0].title, "Moving Right");
-  EXPECT_EQ(f.child.logic->MovedText, "Moved: R: 2");
+  EXPECT_EQ(f.child.logic->View().MovedText(), "Moved: R: 2");
   f.commands.Run(Command::MoveCenter, &f.child);
-  EXPECT_EQ(f.child.logic->MovedText, "Moved:");
-  EXPECT_EQ(f.child.logic->MoveX, 0);
+  EXPECT_EQ(f.child.logic->View().MovedText(), "Moved:");
+  EXPECT_EQ(f.child.logic->View().MoveX(), 0);
 }
 
 TEST(FrameCommands, FunctionTypeSetsTheWindowsType) {
   Fixture f;
   f.commands.Run(Command::TypePolar, &f.child);
-  EXPECT_EQ(f.child.logic->optFunkcije, graph::kPolar);
-  EXPECT_EQ(f.child.logic->labY.Caption, "R (K) =");
+  EXPECT_EQ(f.child.logic->Boxes().optFunkcije(), graph::kPolar);
+  EXPECT_EQ(f.child.logic->Boxes().labY().Caption, "R (K) =");
   f.commands.Run(Command::TypeParametric, &f.child);
-  EXPECT_EQ(f.child.logic->labY.Caption, "Y (K) =");
-  EXPECT_TRUE(f.child.logic->txtX.Visible);
+  EXPECT_EQ(f.child.logic->Boxes().labY().Caption, "Y (K) =");
+  EXPECT_TRUE(f.child.logic->Boxes().txtX().Visible);
 }
 
 TEST(FrameCommands, ARecentLineIsSplitAndDrawnInItsType) {
@@ -166,10 +166,10 @@ TEST(FrameCommands, ARecentLineIsSplitAndDrawnInItsType) {
   for (const auto& c : cases) {
     Fixture f;
     f.commands.DrawRecent(c.line, &f.child);
-    EXPECT_EQ(f.child.logic->optFunkcije, c.type) << c.line;
-    EXPECT_EQ(f.child.logic->txtY.Text, c.y) << c.line;
-    EXPECT_EQ(f.child.logic->txtX.Text, c.x) << c.line;
-    EXPECT_EQ(f.child.logic->KolkoFunkc, 1) << c.line;
+    EXPECT_EQ(f.child.logic->Boxes().optFunkcije(), c.type) << c.line;
+    EXPECT_EQ(f.child.logic->Boxes().txtY().Text, c.y) << c.line;
+    EXPECT_EQ(f.child.logic->Boxes().txtX().Text, c.x) << c.line;
+    EXPECT_EQ(f.child.logic->State().KolkoFunkc(), 1) << c.line;
     EXPECT_GT(f.child.CurveLines(), 0u) << c.line;
   }
 }
@@ -177,16 +177,16 @@ TEST(FrameCommands, ARecentLineIsSplitAndDrawnInItsType) {
 TEST(FrameCommands, CommandsWaitWhileTheWindowDraws) {
   Fixture f;
   f.child.Draw("SinX");
-  f.child.logic->Drawing = true;
+  auto busy = f.child.logic->Busy();
   f.commands.Run(Command::ZoomIn, &f.child);
   f.commands.Run(Command::MoveCenter, &f.child);
   f.commands.LoadExample(graph::ExampleMenus()[0].entries[0], &f.child);
   f.commands.DrawRecent("CosX ; K | Cartesian", &f.child);
   f.commands.Run(Command::TypePolar, &f.child);
   EXPECT_TRUE(f.child.messages.Boxes().empty());
-  EXPECT_EQ(f.child.logic->Zoom, 30);
-  EXPECT_EQ(f.child.logic->optFunkcije, graph::kCartesian);
-  EXPECT_EQ(f.child.logic->KolkoFunkc, 1);
+  EXPECT_EQ(f.child.logic->View().Zoom(), 30);
+  EXPECT_EQ(f.child.logic->Boxes().optFunkcije(), graph::kCartesian);
+  EXPECT_EQ(f.child.logic->State().KolkoFunkc(), 1);
 }
 
 }  // namespace

@@ -133,14 +133,14 @@ TEST(StatusPanels, NoWindowShowsHashInAllFour) {
 TEST(StatusPanels, CaptionZoomTextAndTotal) {
   testing::WindowFixture f;
   auto& w = f.Make();
-  w.txtY.Text = "SinX";
+  w.SettxtY("SinX");
   EXPECT_EQ(StatusPanels(3, &w, "Moved:"), (StatusTexts{"Y (X) = SinX", "Zoom: 30", "Moved:", "Total: 3"}));
   w.optFunk(graph::kParametric);
-  w.txtY.Text = "SinK";
-  w.txtX.Text = "CosK";
+  w.SettxtY("SinK");
+  w.SettxtX("CosK");
   EXPECT_EQ(StatusPanels(1, &w, "")[0], "Y (K) = SinK ; X (K) = CosK");
   w.optFunk(graph::kPolar);
-  w.zlevel = 177;
+  w.ZumPuding();  // a zoom of 177 shown in the status bar
   const auto panels = StatusPanels(1, &w, "");
   EXPECT_EQ(panels[0], "R (K) = SinK");
   EXPECT_EQ(panels[1], "Zoom: 177");
@@ -150,7 +150,7 @@ TEST(StatusPanels, WindowTitleIsTheTagUntilAFunctionIsTyped) {
   testing::WindowFixture f;
   auto& w = f.Make();
   EXPECT_EQ(WindowTitle("Graph 1", w), "Graph 1");
-  w.txtY.Text = "SinX";
+  w.SettxtY("SinX");
   EXPECT_EQ(WindowTitle("Graph 1", w), "Graph 1 - Y (X) = SinX");
 }
 

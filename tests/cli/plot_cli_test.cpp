@@ -4,6 +4,7 @@
 #include <cmath>
 #include <filesystem>
 #include <fstream>
+#include <sstream>
 #include <string>
 #include <vector>
 
@@ -57,6 +58,17 @@ TEST_F(PlotCli, TraceHasOneLinePerPassWithSevenColumns) {
   EXPECT_EQ(lines[0], "-10\t0.54402111088937\t-10\t0\t183.679366673319\tmove\t0");
   EXPECT_EQ(Split(lines[1])[5], "line");
   for (const auto& line : lines) EXPECT_EQ(Split(line).size(), 7u) << line;
+}
+
+// Each Cartesian record names the first table row of its own function.
+TEST_F(PlotCli, HistoryRecordsTheFirstRowOfTheFunctionJustDrawn) {
+  const CliRun run = Plot({"--y", "SinX", "--y", "CosX"});
+  ASSERT_EQ(run.status, 0) << run.out;
+  std::ostringstream text;
+  text << std::ifstream(History()).rdbuf();
+  const std::string log = text.str();
+  EXPECT_NE(log.find(" Y(X) = sinx\r\n X = -10; Y = 0.544\r\n"), std::string::npos) << log;
+  EXPECT_NE(log.find(" Y(X) = cosx\r\n X = -10; Y = -0.839\r\n"), std::string::npos) << log;
 }
 
 TEST_F(PlotCli, SamplesFollowTheWidth) {

@@ -150,31 +150,31 @@ TEST(ExampleCatalogue, EveryEntryLoadsDrawsAndLeavesItsBoxes) {
       SCOPED_TRACE(std::string(menu.array) + ": " + std::string(e.caption));
       EngineWindow w;
       w.surface.ClearOps();
-      LoadExample(*w.window, e, w.settings);
+      LoadExample(*w.window, e);
       ++entries;
       const GraphWindow& g = *w.window;
       const auto curves = ExampleCurves(e);
       EXPECT_TRUE(w.messages.Boxes().empty()) << w.messages.Boxes().front().text;
-      EXPECT_EQ(g.optFunkcije, e.type);
-      EXPECT_FALSE(g.Line1.Visible);
-      EXPECT_FALSE(g.Drawing);
-      EXPECT_TRUE(g.Plotted);
+      EXPECT_EQ(g.Boxes().optFunkcije(), e.type);
+      EXPECT_FALSE(g.Line1().Visible);
+      EXPECT_FALSE(g.State().Drawing());
+      EXPECT_TRUE(g.State().Plotted());
       // Each pair is one draw; the boxes hold the last pair, blanks removed.
-      EXPECT_EQ(g.KolkoFunkc, static_cast<int>(curves.size()));
-      EXPECT_EQ(g.txtY.Text, WithoutBlanks(curves.back().first));
+      EXPECT_EQ(g.State().KolkoFunkc(), static_cast<int>(curves.size()));
+      EXPECT_EQ(g.Boxes().txtY().Text, WithoutBlanks(curves.back().first));
       if (e.type == kParametric) {
-        EXPECT_EQ(g.txtX.Text, WithoutBlanks(curves.back().second));
+        EXPECT_EQ(g.Boxes().txtX().Text, WithoutBlanks(curves.back().second));
       } else {
-        EXPECT_EQ(g.txtX.Text, "K");
+        EXPECT_EQ(g.Boxes().txtX().Text, "K");
       }
       // Every curve joins the list of txtY, once.
       std::set<std::string> distinct;
       for (const auto& c : curves) distinct.insert(WithoutBlanks(c.first));
-      EXPECT_EQ(g.txtY.List.size(), distinct.size());
-      EXPECT_EQ(g.Zoom, ZoomOf(e));
-      EXPECT_EQ(g.zlevel, ZoomOf(e));
+      EXPECT_EQ(g.Boxes().txtY().List.size(), distinct.size());
+      EXPECT_EQ(g.View().Zoom(), ZoomOf(e));
+      EXPECT_EQ(g.View().zlevel(), ZoomOf(e));
       // Something was drawn in the plot colour.
-      EXPECT_FALSE(w.surface.LinesIn(g.Graph_Clr).empty());
+      EXPECT_FALSE(w.surface.LinesIn(g.Pen().Graph_Clr()).empty());
     }
   }
   EXPECT_EQ(entries, 25 + 12 + 22 + 18 + 22 + 22 + 18);
@@ -183,23 +183,24 @@ TEST(ExampleCatalogue, EveryEntryLoadsDrawsAndLeavesItsBoxes) {
 TEST(ExampleCatalogue, DescartesMovesRightByItsOwnStepsWithoutAsking) {
   EngineWindow w;
   const Example& decart = Menu("mnupf1").entries[7];
-  const double centre = w.window->CenterX;
-  LoadExample(*w.window, decart, w.settings);
+  const double centre = w.window->View().CenterX();
+  LoadExample(*w.window, decart);
   EXPECT_TRUE(w.input.AskedBoxes().empty());
-  EXPECT_TRUE(w.window->MovedRight);
-  EXPECT_DOUBLE_EQ(w.window->CenterX, centre + 8 * 3);
-  EXPECT_DOUBLE_EQ(w.window->MoveX, 3);
-  EXPECT_EQ(w.window->MovedText, "Moved: R: 3");
-  EXPECT_EQ(w.window->zoomMenu.Custom, "> Custom (8)");
-  EXPECT_EQ(w.window->zoomMenu.Checked, 4);
+  EXPECT_TRUE(w.window->View().MovedRight());
+  EXPECT_DOUBLE_EQ(w.window->View().CenterX(), centre + 8 * 3);
+  EXPECT_DOUBLE_EQ(w.window->View().MoveX(), 3);
+  EXPECT_EQ(w.window->View().MovedText(), "Moved: R: 3");
+  EXPECT_EQ(w.window->zoomMenu().Custom, "> Custom (8)");
+  EXPECT_EQ(w.window->zoomMenu().Checked, 4);
 }
 
 TEST(ExampleCatalogue, LaterCurvesAddToTheListOfTheWindow) {
   EngineWindow w;
-  LoadExample(*w.window, Menu("mnuComon").entries[0], w.settings);
-  LoadExample(*w.window, Menu("mnuComon").entries[1], w.settings);
-  EXPECT_EQ(w.window->KolkoFunkc, 2);
-  EXPECT_EQ(w.window->txtY.List, (std::vector<std::string>{"(X^2)-1/(1-X)+1/X", "(X-2)*(X-4)/X^2"}));
+  LoadExample(*w.window, Menu("mnuComon").entries[0]);
+  LoadExample(*w.window, Menu("mnuComon").entries[1]);
+  EXPECT_EQ(w.window->State().KolkoFunkc(), 2);
+  EXPECT_EQ(w.window->Boxes().txtY().List,
+            (std::vector<std::string>{"(X^2)-1/(1-X)+1/X", "(X-2)*(X-4)/X^2"}));
 }
 
 }  // namespace

@@ -4,6 +4,7 @@
 
 #include <cmath>
 #include <filesystem>
+#include <stdexcept>
 #include <string>
 #include <vector>
 
@@ -35,13 +36,13 @@ class DrawTest : public ::testing::Test {
   // Draws a typed function as Enter in txtY does.
   void Enter(const std::string& y, int type = kCartesian, const std::string& x = "K") {
     f.window->optFunk(type);
-    f.window->txtY.Text = y;
-    if (type == kParametric) f.window->txtX.Text = x;
+    f.window->SettxtY(y);
+    if (type == kParametric) f.window->SettxtX(x);
     f.surface.ClearOps();
     f.observer.passes.clear();
     f.window->DrawFromTxtY();
   }
-  std::vector<RecordingSurface::Op> Curve() const { return f.surface.LinesIn(f.window->Graph_Clr); }
+  std::vector<RecordingSurface::Op> Curve() const { return f.surface.LinesIn(f.window->Pen().Graph_Clr()); }
   std::string History() const { return f.history->ReadAll(); }
 
   WindowFixture f;
@@ -51,68 +52,70 @@ class DrawTest : public ::testing::Test {
 TEST_F(DrawTest, ACartesianDrawFromEndToEnd) {
   auto& w = Make();
   Enter("Sin X");
-  EXPECT_EQ(w.txtY.Text, "SinX");  // blanks out of the box itself
-  EXPECT_EQ(w.FuncY, "SINK");
-  EXPECT_EQ(w.FuncX, "K");
+  EXPECT_EQ(w.Boxes().txtY().Text, "SinX");  // blanks out of the box itself
+  EXPECT_EQ(w.State().FuncY(), "SINK");
+  EXPECT_EQ(w.State().FuncX(), "K");
   EXPECT_EQ(f.observer.passes.size(), 601u);
   const auto curve = Curve();
   // Every sample is drawn but the first, which moves (and K = 0 if the sum hits it exactly).
   EXPECT_GE(curve.size(), 599u);
   EXPECT_LE(curve.size(), 600u);
   for (const auto& l : curve) EXPECT_EQ(l.colour, kGraph);
-  EXPECT_EQ(w.KolkoFunkc, 1);
-  EXPECT_EQ(w.txtY.List, (std::vector<std::string>{"SinX"}));
-  EXPECT_TRUE(w.cmbR3.List.empty());
-  EXPECT_TRUE(w.Plotted);
-  EXPECT_FALSE(w.Drawing);
-  EXPECT_FALSE(w.lblPerCent.Visible);
-  EXPECT_EQ(w.lblPointtab.Caption, "Value Tables for SinX");
-  EXPECT_EQ(w.lblPointtab.ForeColor, 0u);
-  EXPECT_DOUBLE_EQ(w.Xpoc, -10);
-  EXPECT_NEAR(w.Xkraj, 10, 0.04);
+  EXPECT_EQ(w.State().KolkoFunkc(), 1);
+  EXPECT_EQ(w.Boxes().txtY().List, (std::vector<std::string>{"SinX"}));
+  EXPECT_TRUE(w.Boxes().cmbR3().List.empty());
+  EXPECT_TRUE(w.State().Plotted());
+  EXPECT_FALSE(w.State().Drawing());
+  EXPECT_FALSE(w.lblPerCent().Visible);
+  EXPECT_EQ(w.lblPointtab().Caption, "Value Tables for SinX");
+  EXPECT_EQ(w.lblPointtab().ForeColor, 0u);
+  EXPECT_DOUBLE_EQ(w.State().Xpoc(), -10);
+  EXPECT_NEAR(w.State().Xkraj(), 10, 0.04);
   // The table runs from Xpoc to Xkraj by 1 with 3 decimals.
-  ASSERT_EQ(w.MS1.Rows(), 21);
-  EXPECT_EQ(w.MS1.TextMatrix(1, 0), "-10");
-  EXPECT_EQ(w.MS1.TextMatrix(1, 1), "0.544");
-  EXPECT_EQ(w.MS1.TextMatrix(1, 2), "-0.839");
+  ASSERT_EQ(w.MS1().Rows(), 21);
+  EXPECT_EQ(w.MS1().TextMatrix(1, 0), "-10");
+  EXPECT_EQ(w.MS1().TextMatrix(1, 1), "0.544");
+  EXPECT_EQ(w.MS1().TextMatrix(1, 2), "-0.839");
   EXPECT_EQ(f.settings.Query("Recent Functions", "Recent1"), "SinX ; K | Cartesian");
   EXPECT_EQ(f.host.focuses > 0, true);
   EXPECT_GT(f.host.frameRefreshes, 0);
 }
 
-TEST_F(DrawTest, TheFirstDrawCreatesTheHistoryWithTheTableRowAsItStood) {
+TEST_F(DrawTest, TheFirstDrawCreatesTheHistoryWithItsOwnFirstTableRow) {
   auto& w = Make();
   EXPECT_FALSE(std::filesystem::exists(path_));
   Enter("SinX");
   EXPECT_TRUE(std::filesystem::exists(path_));
-  // The table is filled after the record, so the record has the empty row.
-  EXPECT_EQ(History(), "\n Y(X) = sinx\n X = ; Y = \n ____________________________________\n");
+  // The record names the first row of the table of the function just drawn,
+  // not an empty row (the window's first function) ...
+  EXPECT_EQ(History(), "\n Y(X) = sinx\n X = -10; Y = 0.544\n ____________________________________\n");
+  // ... nor the row of the function drawn before.
   Enter("X^2");
-  EXPECT_NE(History().find(" Y(X) = x^2\n X = -10; Y = 0.544\n"), std::string::npos);
-  EXPECT_EQ(w.rtb, History());
+  EXPECT_NE(History().find(" Y(X) = x^2\n X = -10; Y = 100\n"), std::string::npos) << History();
+  EXPECT_EQ(w.rtb(), History());
 }
 
 TEST_F(DrawTest, BadSyntaxShowsTheEvaluatorsMessageAndDrawsNothing) {
   auto& w = Make();
   f.surface.ClearOps();
-  w.txtY.Text = "Sin(X";
+  w.SettxtY("Sin(X");
   w.CrtajFJU();
   ASSERT_EQ(f.messages.Boxes().size(), 1u);
   EXPECT_EQ(f.messages.Boxes()[0].text, "Check bracket placement!");
   EXPECT_EQ(f.messages.Boxes()[0].title, "Error");
   EXPECT_EQ(f.messages.Boxes()[0].icon, platform::MsgIcon::Critical);
   EXPECT_TRUE(f.surface.Ops().empty());
-  EXPECT_EQ(w.KolkoFunkc, 0);
+  EXPECT_EQ(w.State().KolkoFunkc(), 0);
   EXPECT_FALSE(std::filesystem::exists(path_));
-  EXPECT_FALSE(w.Plotted);
+  EXPECT_FALSE(w.State().Plotted());
 }
 
 TEST_F(DrawTest, ABadXTextStopsAParametricDraw) {
   auto& w = Make();
   f.surface.ClearOps();
   w.optFunk(kParametric);
-  w.txtY.Text = "SinK";
-  w.txtX.Text = "2*-K";
+  w.SettxtY("SinK");
+  w.SettxtX("2*-K");
   w.CrtajFJU();
   ASSERT_EQ(f.messages.Boxes().size(), 1u);
   EXPECT_EQ(f.messages.Boxes()[0].text, "Check syntax!");
@@ -126,7 +129,7 @@ TEST_F(DrawTest, ASecondEnterDuringADrawChangesNothing) {
   const std::string recent = *f.settings.Query("Recent Functions", "Recent1");
   f.host.onPump = [&w](int pumps) {
     if (pumps == 100) {
-      w.txtY.Text = "CosX";
+      w.SettxtY("CosX");
       w.CrtajFJU();
       w.DrawFromTxtY();
     }
@@ -139,13 +142,13 @@ TEST_F(DrawTest, ASecondEnterDuringADrawChangesNothing) {
     EXPECT_DOUBLE_EQ(again[i].y2, reference[i].y2);
   }
   EXPECT_EQ(*f.settings.Query("Recent Functions", "Recent1"), recent);
-  EXPECT_EQ(w.KolkoFunkc, 2);
+  EXPECT_EQ(w.State().KolkoFunkc(), 2);
 }
 
 TEST_F(DrawTest, ExpAndFixKeepTheirNamesAndXAndKAreOneVariable) {
   auto& w = Make();
   Enter("exp(x)+fix(X)+k");
-  EXPECT_EQ(w.FuncY, "EP(K)+STL(K)+K");
+  EXPECT_EQ(w.State().FuncY(), "EP(K)+STL(K)+K");
   // Every sample's formula is EP((v))+STL((v))+(v) with one value v.
   int samples = 0;
   for (const auto& formula : f.engine->Sent()) {
@@ -163,8 +166,8 @@ TEST_F(DrawTest, ARepeatedFunctionStandsOnceButCountsTwice) {
   Enter("X");
   Enter("X^2");
   Enter("X");
-  EXPECT_EQ(w.txtY.List, (std::vector<std::string>{"X", "X^2"}));
-  EXPECT_EQ(w.KolkoFunkc, 3);
+  EXPECT_EQ(w.Boxes().txtY().List, (std::vector<std::string>{"X", "X^2"}));
+  EXPECT_EQ(w.State().KolkoFunkc(), 3);
 }
 
 TEST_F(DrawTest, EscStopsAtTheNextSampleKeepsTheCurveAndWritesTheHistory) {
@@ -176,9 +179,9 @@ TEST_F(DrawTest, EscStopsAtTheNextSampleKeepsTheCurveAndWritesTheHistory) {
   EXPECT_EQ(f.observer.passes.size(), 50u);
   EXPECT_EQ(Curve().size(), 49u);
   EXPECT_NE(History().find(" Y(X) = x/4"), std::string::npos);
-  EXPECT_EQ(w.KolkoFunkc, 1);
-  EXPECT_FALSE(w.Drawing);
-  EXPECT_TRUE(w.Plotted);
+  EXPECT_EQ(w.State().KolkoFunkc(), 1);
+  EXPECT_FALSE(w.State().Drawing());
+  EXPECT_TRUE(w.State().Plotted());
   // A new draw starts afresh.
   f.host.onPump = nullptr;
   Enter("X/4");
@@ -195,8 +198,7 @@ TEST_F(DrawTest, TheConstantZeroDrawsNothingAndASmallConstantDraws) {
 
 TEST_F(DrawTest, HundredIsDrawnAndJustOverIsNot) {
   auto& w = Make();
-  w.Zoom = 1;
-  w.lblzm.Caption = "1";
+  w.SetView(1, w.View().CenterX(), w.View().CenterY());
   Enter("100");
   EXPECT_EQ(Curve().size(), 600u);
   Enter("100.0001");
@@ -229,8 +231,8 @@ TEST_F(DrawTest, SqrStartsAtTheFirstPositiveSample) {
 TEST_F(DrawTest, PolarOneIsACircleOfRadiusOne) {
   auto& w = Make();
   Enter("1", kPolar);
-  EXPECT_EQ(w.FuncY, "(1)*(SINK)");
-  EXPECT_EQ(w.FuncX, "(1)*(cosK)");
+  EXPECT_EQ(w.State().FuncY(), "(1)*(SINK)");
+  EXPECT_EQ(w.State().FuncX(), "(1)*(cosK)");
   const auto curve = Curve();
   ASSERT_FALSE(curve.empty());
   for (const auto& l : curve) EXPECT_NEAR(std::hypot(l.x2 - 300, l.y2 - 200), 30, 0.05);
@@ -239,17 +241,22 @@ TEST_F(DrawTest, PolarOneIsACircleOfRadiusOne) {
   EXPECT_NEAR(f.observer.passes.back().kr, 10, 1e-3);
   EXPECT_EQ(*f.settings.Query("Recent Functions", "Recent1"), "1 ; K | Polar");
   EXPECT_NE(History().find(" R(K) = 1\n"), std::string::npos);
-  EXPECT_EQ(w.MS1.Rows(), 14);
-  EXPECT_EQ(w.MS1.TextMatrix(0, 0), "\xC3\xB8");
-  EXPECT_EQ(w.txtY.List, (std::vector<std::string>{"1"}));
-  EXPECT_TRUE(w.cmbR3.List.empty());
+  EXPECT_EQ(w.MS1().Rows(), 14);
+  EXPECT_EQ(w.MS1().TextMatrix(0, 0), "\xC3\xB8");
+  EXPECT_EQ(w.Boxes().txtY().List, (std::vector<std::string>{"1"}));
+  EXPECT_TRUE(w.Boxes().cmbR3().List.empty());
 }
 
-TEST_F(DrawTest, PolarNeverTakesXpoc) {
+TEST_F(DrawTest, PolarAndParametricNeverTakeXpoc) {
   auto& w = Make();
-  w.Xpoc = 42;
+  Enter("X");
+  EXPECT_DOUBLE_EQ(w.State().Xpoc(), -10);
+  // Neither curve starts at the left edge, where a Cartesian one does.
+  w.SetView(30, 360, 200);
   Enter("2", kPolar);
-  EXPECT_EQ(w.Xpoc, 42);
+  EXPECT_DOUBLE_EQ(w.State().Xpoc(), -10);
+  Enter("K/2", kParametric, "K+1");
+  EXPECT_DOUBLE_EQ(w.State().Xpoc(), -10);  // Xpoc is for the Cartesian type only
 }
 
 TEST_F(DrawTest, SpiralIsCutAtTheSurfacesKLimits) {
@@ -285,13 +292,13 @@ TEST_F(DrawTest, SinCosIsTheUnitCircle) {
   for (const auto& l : curve) EXPECT_NEAR(std::hypot(l.x2 - 300, l.y2 - 200), 30, 0.05);
   EXPECT_NE(History().find(" Y(K) = SinK\n X = CosK\n"), std::string::npos);
   EXPECT_EQ(*f.settings.Query("Recent Functions", "Recent1"), "SinK ; CosK | Parametric");
-  EXPECT_EQ(w.txtX.List, (std::vector<std::string>{"CosK"}));
-  EXPECT_EQ(w.cmbR3.List, (std::vector<std::string>{"SinK"}));
+  EXPECT_EQ(w.Boxes().txtX().List, (std::vector<std::string>{"CosK"}));
+  EXPECT_EQ(w.Boxes().cmbR3().List, (std::vector<std::string>{"SinK"}));
   // The table: K from -9 to 9.
-  ASSERT_EQ(w.MS1.Rows(), 20);
-  EXPECT_EQ(w.MS1.TabLines()[0], "K\tX (K)\tY (K)");
-  EXPECT_EQ(w.MS1.TextMatrix(1, 0), "-9");
-  EXPECT_EQ(w.MS1.TextMatrix(19, 0), "9");
+  ASSERT_EQ(w.MS1().Rows(), 20);
+  EXPECT_EQ(w.MS1().TabLines()[0], "K\tX (K)\tY (K)");
+  EXPECT_EQ(w.MS1().TextMatrix(1, 0), "-9");
+  EXPECT_EQ(w.MS1().TextMatrix(19, 0), "9");
 }
 
 // The trial before a draw refuses a bare "Y" ("Check syntax!"); the replay,
@@ -312,15 +319,13 @@ TEST_F(DrawTest, ParametricWithXAsKDrawsAsCartesianButIsRememberedAsParametric) 
   auto& w = Make();
   Enter("X/2", kCartesian);
   const auto cartesian = Curve();
-  w.Xpoc = 77;
   Enter("K/2", kParametric, "K");
   const auto parametric = Curve();
   ASSERT_EQ(parametric.size(), cartesian.size());
   for (std::size_t i = 0; i < parametric.size(); ++i) EXPECT_DOUBLE_EQ(parametric[i].y2, cartesian[i].y2);
-  EXPECT_EQ(w.Xpoc, 77);  // Xpoc is for the Cartesian type only
   EXPECT_EQ(*f.settings.Query("Recent Functions", "Recent1"), "K/2 ; K | Parametric");
   EXPECT_NE(History().find(" Y(K) = K/2\n X = K\n"), std::string::npos);
-  EXPECT_EQ(w.MS1.TextMatrix(0, 0), "K");
+  EXPECT_EQ(w.MS1().TextMatrix(0, 0), "K");
 }
 
 // ---- Replay and the list ------------------------------------------------------------------------
@@ -339,12 +344,12 @@ TEST_F(DrawTest, RedrawFuncReplaysTheListOldestFirstAndWritesNothing) {
   f.host.types.clear();
   w.RedrawFunc();
   EXPECT_EQ(f.host.types, (std::vector<int>{kCartesian, kParametric, kPolar}));
-  EXPECT_EQ(w.KolkoFunkc, 3);
-  EXPECT_EQ(w.txtY.List.size(), 3u);
+  EXPECT_EQ(w.State().KolkoFunkc(), 3);
+  EXPECT_EQ(w.Boxes().txtY().List.size(), 3u);
   EXPECT_EQ(History(), history);
   EXPECT_EQ(*f.settings.Query("Recent Functions", "Recent1"), recent);
   EXPECT_GT(f.surface.LinesIn(kGraph).size(), 1000u);
-  EXPECT_EQ(w.txtX.Text, "K");  // the polar one came last
+  EXPECT_EQ(w.Boxes().txtX().Text, "K");  // the polar one came last
   // A polar function without K replays as a Cartesian one: the list knows no type.
   Enter("1", kPolar);
   f.host.types.clear();
@@ -360,7 +365,7 @@ TEST_F(DrawTest, WithAutoredOffAZoomLeavesAnEmptyPaper) {
   w.mnuzoomin();
   w.RedrawFunc();  // as the frame does after a zoom
   EXPECT_TRUE(f.surface.LinesIn(kGraph).empty());
-  EXPECT_EQ(w.KolkoFunkc, 0);
+  EXPECT_EQ(w.State().KolkoFunkc(), 0);
 }
 
 TEST_F(DrawTest, ClickInTheListChoosesTheTypeByKAndCmbR3) {
@@ -368,42 +373,42 @@ TEST_F(DrawTest, ClickInTheListChoosesTheTypeByKAndCmbR3) {
   Enter("SinK", kParametric, "CosK");
   Enter("X^2");
   f.settings.Store("Grid", "Autored", "0");  // only the table is refilled
-  w.txtY.Text = "SinK";
+  w.SettxtY("SinK");
   w.txtY_Click();
-  EXPECT_EQ(w.optFunkcije, kParametric);
-  EXPECT_EQ(w.txtX.Text, "CosK");
-  EXPECT_EQ(w.MS1.TextMatrix(0, 0), "K");
-  w.txtY.Text = "2*K";
+  EXPECT_EQ(w.Boxes().optFunkcije(), kParametric);
+  EXPECT_EQ(w.Boxes().txtX().Text, "CosK");
+  EXPECT_EQ(w.MS1().TextMatrix(0, 0), "K");
+  w.SettxtY("2*K");
   w.txtY_Click();
-  EXPECT_EQ(w.optFunkcije, kPolar);
-  EXPECT_EQ(w.MS1.Cols(), 4);
-  w.txtY.Text = "X^2";
+  EXPECT_EQ(w.Boxes().optFunkcije(), kPolar);
+  EXPECT_EQ(w.MS1().Cols(), 4);
+  w.SettxtY("X^2");
   w.txtY_Click();
-  EXPECT_EQ(w.optFunkcije, kCartesian);
-  EXPECT_EQ(w.MS1.TextMatrix(0, 0), "X");
-  EXPECT_EQ(w.lblPointtab.ForeColor, 0u);
+  EXPECT_EQ(w.Boxes().optFunkcije(), kCartesian);
+  EXPECT_EQ(w.MS1().TextMatrix(0, 0), "X");
+  EXPECT_EQ(w.lblPointtab().ForeColor, 0u);
 }
 
 TEST_F(DrawTest, TheTableRefusesKOutsideTheCartesianType) {
   auto& w = Make();
   w.optFunk(kParametric);
-  w.txtY.Text = "SinK";
+  w.SettxtY("SinK");
   w.FillValueTable(-1, 1);
   ASSERT_EQ(f.messages.Boxes().size(), 1u);
   EXPECT_EQ(f.messages.Boxes()[0].title, "Error Calculating Values");
-  EXPECT_EQ(w.MS1.Rows(), 2);
+  EXPECT_EQ(w.MS1().Rows(), 2);
 }
 
 TEST_F(DrawTest, RandomColoursGiveEachDrawItsOwnColour) {
   auto& w = Make();
   f.settings.Store("Grid", "Rnd", "1");
   Enter("X/2");
-  const Colour first = w.Graph_Clr;
-  EXPECT_EQ(w.lblPointtab.ForeColor, first);
+  const Colour first = w.Pen().Graph_Clr();
+  EXPECT_EQ(w.lblPointtab().ForeColor, first);
   EXPECT_EQ(f.surface.LinesIn(first).size(), 600u);
   Enter("X/3");
-  EXPECT_NE(w.Graph_Clr, first);
-  EXPECT_EQ(w.lblBoja.BackColor, kGraph);  // the label keeps the set colour
+  EXPECT_NE(w.Pen().Graph_Clr(), first);
+  EXPECT_EQ(w.Pen().lblBoja(), kGraph);  // the label keeps the set colour
 }
 
 // Rnd is read from the store at each draw, so a change made through one
@@ -413,13 +418,13 @@ TEST_F(DrawTest, RndChangedElsewhereAppliesAtTheNextDraw) {
   WindowFixture other;
   other.Make();
   Enter("X/2");
-  EXPECT_EQ(w.Graph_Clr, kGraph);
+  EXPECT_EQ(w.Pen().Graph_Clr(), kGraph);
   other.settings.Store("Grid", "Rnd", "1");  // another window's store: not this one
   Enter("X/2");
-  EXPECT_EQ(w.Graph_Clr, kGraph);
+  EXPECT_EQ(w.Pen().Graph_Clr(), kGraph);
   f.settings.Store("Grid", "Rnd", "1");  // the shared store
   Enter("X/2");
-  EXPECT_NE(w.Graph_Clr, kGraph);
+  EXPECT_NE(w.Pen().Graph_Clr(), kGraph);
 }
 
 TEST_F(DrawTest, LineWidthInputBox) {
@@ -435,61 +440,74 @@ TEST_F(DrawTest, LineWidthInputBox) {
   ASSERT_EQ(f.messages.Boxes().size(), 2u);
   EXPECT_EQ(f.messages.Boxes()[0].text, "Invalid input: Line width = abc.");
   EXPECT_EQ(f.messages.Boxes()[1].text, "Invalid input: Line width = 0.");
-  EXPECT_EQ(w.GraphLineWidth, 1.6);
+  EXPECT_EQ(w.Pen().GraphLineWidth(), 1.6);
   Enter("X/2");
   EXPECT_EQ(Curve().front().width, 2);
   f.input.Answer(std::string());
   w.mnuPlotWidth();  // empty cancels
-  EXPECT_EQ(w.GraphLineWidth, 1.6);
+  EXPECT_EQ(w.Pen().GraphLineWidth(), 1.6);
 }
 
 TEST_F(DrawTest, ANonPositiveWidthBecomesOneBeforeADraw) {
   auto& w = Make();
-  w.GraphLineWidth = -3;
+  w.SetGraphLineWidth(-3);
   Enter("X/2");
-  EXPECT_EQ(w.GraphLineWidth, 1);
+  EXPECT_EQ(w.Pen().GraphLineWidth(), 1);
 }
 
 // ---- Tangent and normal records -----------------------------------------------------------------------
 
 TEST_F(DrawTest, TangentRecordFromTheRequestFields) {
   auto& w = Make();
-  w.Tngenta = true;
-  w.fjaT = "X^2";
-  w.TngentaX = "1";
-  w.Slopka = "2";
+  w.SetTangentRequest(TangentRequest::Cartesian(false, "1", "2", "X^2"));
   Enter("2*x-1");
   EXPECT_NE(History().find("\n Tangent for Y = X^2\n X = 1; Y = 1\n Slope: 2\n Tangent Line: 2*x-1\n"),
             std::string::npos)
       << History();
-  EXPECT_FALSE(w.Tngenta);  // cleared at the end of the draw
+  EXPECT_FALSE(w.Tangent().Tngenta());  // cleared at the end of the draw
 }
 
 TEST_F(DrawTest, NormalRecord) {
   auto& w = Make();
-  w.Normalka = true;
-  w.fjaT = "X^2";
-  w.TngentaX = "2";
-  w.Slopka = "-0.25";
+  w.SetTangentRequest(TangentRequest::Cartesian(true, "2", "-0.25", "X^2"));
   Enter("-0.25*x + 4.5");
   EXPECT_NE(
       History().find("\n Normal for Y = X^2\n X = 2; Y = 4\n Slope: -0.25\n Normal Line: -0.25*x+4.5\n"),
       std::string::npos)
       << History();
-  EXPECT_FALSE(w.Normalka);
+  EXPECT_FALSE(w.Tangent().Normalka());
 }
 
 TEST_F(DrawTest, ParametricTangentRecord) {
   auto& w = Make();
-  w.TngentaP = true;
-  w.fja1P = "SinK";
-  w.fja2P = "CosK";
-  w.TngentaXP = "1";
+  w.SetTangentRequest(TangentRequest::Parametric(false, "1", "SinK", "CosK", "SinK ; CosK"));
   Enter("-0.6421*x+1.1884");
   EXPECT_NE(History().find("\n Tangent for Parametric Function: \n Y = SinK\n X = CosK\n K = 1\n"
                            " X = 0.5403; Y = 0.8415\n Tangent Line: Y = -0.6421*x+1.1884; X = K\n"),
             std::string::npos)
       << History();
+}
+
+}  // namespace
+}  // namespace velmora::graph
+
+namespace velmora::graph {
+namespace {
+
+TEST_F(DrawTest, AnExceptionInTheMiddleOfADrawLeavesTheWindowUsable) {
+  auto& w = Make();
+  f.host.onPump = [](int pumps) {
+    if (pumps == 50) throw std::runtime_error("a fault the loop does not trap");
+  };
+  EXPECT_THROW(Enter("SinX"), std::runtime_error);
+  EXPECT_FALSE(w.State().Drawing());
+  f.host.onPump = nullptr;
+  // Every command works again: a zoom repaints, a draw draws.
+  w.mnuzoomin();
+  EXPECT_EQ(w.View().Zoom(), 50);
+  Enter("SinX");
+  EXPECT_FALSE(Curve().empty());
+  EXPECT_EQ(w.State().KolkoFunkc(), 1);
 }
 
 }  // namespace

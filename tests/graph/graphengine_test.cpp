@@ -22,12 +22,12 @@ struct EngineWindow {
   std::vector<RecordingSurface::Op> Draw(const std::string& y, int type = kCartesian,
                                          const std::string& x = "K") {
     window->optFunk(type);
-    window->txtY.Text = y;
-    if (type == kParametric) window->txtX.Text = x;
+    window->SettxtY(y);
+    if (type == kParametric) window->SettxtX(x);
     surface.ClearOps();
     observer.passes.clear();
     window->DrawFromTxtY();
-    return surface.LinesIn(window->Graph_Clr);
+    return surface.LinesIn(window->Pen().Graph_Clr());
   }
 
   RecordingSurface surface{600, 400};
@@ -40,13 +40,10 @@ struct EngineWindow {
 
 TEST(GraphOnTheEngine, FEvaluatesAndAFailureIsZeroOrNotFinite) {
   EngineWindow e;
-  e.window->FuncY = "SINK";
-  EXPECT_NEAR(e.window->F(0.5), std::sin(0.5), 1e-12);
-  e.window->FuncY = "LN(K)";
-  const double v = e.window->F(-1);
+  EXPECT_NEAR(e.window->EvaluateAt("SINK", 0.5), std::sin(0.5), 1e-12);
+  const double v = e.window->EvaluateAt("LN(K)", -1);
   EXPECT_TRUE(v == 0 || !std::isfinite(v));
-  e.window->FuncX = "K*Y";
-  EXPECT_NEAR(e.window->F2(2, 3), 6, 1e-12);
+  EXPECT_NEAR(e.window->EvaluateXAt("K*Y", 2, 3), 6, 1e-12);
 }
 
 TEST(GraphOnTheEngine, SinKCosKIsTheUnitCircleRetracedAboutThreeTimes) {
@@ -93,15 +90,15 @@ TEST(GraphOnTheEngine, TableAndTheConstantHundred) {
   EngineWindow e;
   // The table runs from the first plotted X (Y within 100) to the last column.
   e.Draw("X^3");
-  EXPECT_DOUBLE_EQ(e.window->Xpoc, -4.634);
+  EXPECT_DOUBLE_EQ(e.window->State().Xpoc(), -4.634);
   // Xkraj is the column of the last plotted sample: Xp keeps it over the skipped ones.
-  EXPECT_NEAR(e.window->Xkraj, 4.633, 0.001);
-  ASSERT_EQ(e.window->MS1.Rows(), 11);  // -4.634 to 4.366 by 1
-  EXPECT_EQ(e.window->MS1.TabLines()[1], "-4.634\t-99.51\t64.422");
-  EXPECT_EQ(e.window->MS1.TabLines()[10].substr(0, 6), "4.366\t");
+  EXPECT_NEAR(e.window->State().Xkraj(), 4.633, 0.001);
+  ASSERT_EQ(e.window->MS1().Rows(), 11);  // -4.634 to 4.366 by 1
+  EXPECT_EQ(e.window->MS1().TabLines()[1], "-4.634\t-99.51\t64.422");
+  EXPECT_EQ(e.window->MS1().TabLines()[10].substr(0, 6), "4.366\t");
   e.Draw("Tan(X)*50");
-  EXPECT_EQ(e.window->MS1.TabLines()[3], "-8\tError\tError");  // 339.96 is beyond 300
-  e.window->Zoom = 1;
+  EXPECT_EQ(e.window->MS1().TabLines()[3], "-8\tError\tError");  // 339.96 is beyond 300
+  e.window->SetView(1, e.window->View().CenterX(), e.window->View().CenterY());
   EXPECT_EQ(e.Draw("100").size(), 600u);
   EXPECT_TRUE(e.Draw("100.0001").empty());
 }

@@ -32,14 +32,14 @@ TEST_P(ZoomPresetTest, SetsZoomTextsAndRepaints) {
   auto& w = f.Make();
   f.surface.ClearOps();
   (w.*c.command)();
-  EXPECT_EQ(w.Zoom, c.zoom);
-  EXPECT_EQ(w.zlevel, c.zoom);
-  EXPECT_EQ(w.lblzm.Caption, expr::NumberToText(c.zoom));
-  EXPECT_EQ(w.zoomMenu.Checked, c.checked);
-  EXPECT_EQ(w.zoomMenu.ZoomIn, c.zoomIn);
-  EXPECT_EQ(w.zoomMenu.ZoomOut, c.zoomOut);
-  EXPECT_EQ(w.zoomMenu.Default, c.deflt);
-  EXPECT_EQ(w.zoomMenu.Custom, c.custom);
+  EXPECT_EQ(w.View().Zoom(), c.zoom);
+  EXPECT_EQ(w.View().zlevel(), c.zoom);
+  EXPECT_EQ(w.lblzm().Caption, expr::NumberToText(c.zoom));
+  EXPECT_EQ(w.zoomMenu().Checked, c.checked);
+  EXPECT_EQ(w.zoomMenu().ZoomIn, c.zoomIn);
+  EXPECT_EQ(w.zoomMenu().ZoomOut, c.zoomOut);
+  EXPECT_EQ(w.zoomMenu().Default, c.deflt);
+  EXPECT_EQ(w.zoomMenu().Custom, c.custom);
   ASSERT_FALSE(f.surface.Ops().empty());
   EXPECT_EQ(f.surface.Ops().front().kind, RecordingSurface::Kind::Clear);
   // The paper at the new zoom: the first grid column right of the axis.
@@ -69,10 +69,10 @@ INSTANTIATE_TEST_SUITE_P(Presets, ZoomPresetTest,
 TEST(Zoom, APresetDoesNothingDuringADraw) {
   WindowFixture f;
   auto& w = f.Make();
-  w.Drawing = true;
+  auto busy = w.Busy();
   f.surface.ClearOps();
   w.mnuzoomin();
-  EXPECT_EQ(w.Zoom, 30);
+  EXPECT_EQ(w.View().Zoom(), 30);
   EXPECT_TRUE(f.surface.Ops().empty());
 }
 
@@ -95,20 +95,20 @@ TEST_P(FineZoomTest, RangeFiveToTwoHundred) {
   EXPECT_EQ(f.input.AskedBoxes()[0].title, "Zooming");
   EXPECT_EQ(f.input.AskedBoxes()[0].prompt, "Select zooming factor in range (5-200).");
   EXPECT_EQ(f.input.AskedBoxes()[0].defaultText, "");
-  EXPECT_EQ(w.Zoom, c.zoomAfter);
+  EXPECT_EQ(w.View().Zoom(), c.zoomAfter);
   if (c.accepted) {
     EXPECT_TRUE(f.messages.Boxes().empty());
-    EXPECT_EQ(w.zoomMenu.Custom, "> &Custom (" + expr::NumberToText(c.zoomAfter) + ")");
-    EXPECT_EQ(w.zoomMenu.Checked, 4);
-    EXPECT_EQ(w.lblzm.Caption, expr::NumberToText(c.zoomAfter));
-    EXPECT_EQ(w.zlevel, c.zoomAfter);
+    EXPECT_EQ(w.zoomMenu().Custom, "> &Custom (" + expr::NumberToText(c.zoomAfter) + ")");
+    EXPECT_EQ(w.zoomMenu().Checked, 4);
+    EXPECT_EQ(w.lblzm().Caption, expr::NumberToText(c.zoomAfter));
+    EXPECT_EQ(w.View().zlevel(), c.zoomAfter);
     EXPECT_FALSE(f.surface.Ops().empty());
   } else {
     ASSERT_EQ(f.messages.Boxes().size(), 1u);
     EXPECT_EQ(f.messages.Boxes()[0].text, "Input out of range (5-200)!");
     // The refused value stays in Zoom; nothing else changes or repaints.
-    EXPECT_EQ(w.lblzm.Caption, "30");
-    EXPECT_EQ(w.zlevel, 30);
+    EXPECT_EQ(w.lblzm().Caption, "30");
+    EXPECT_EQ(w.View().zlevel(), 30);
     EXPECT_TRUE(f.surface.Ops().empty());
   }
 }
@@ -126,39 +126,39 @@ TEST(Zoom, AnEmptyOrCancelledAnswerDoesNothing) {
   f.input.Answer(std::nullopt);
   w.mnuFineZoom();
   w.mnuFineZoom();
-  EXPECT_EQ(w.Zoom, 30);
+  EXPECT_EQ(w.View().Zoom(), 30);
   EXPECT_TRUE(f.messages.Boxes().empty());
 }
 
 TEST(Zoom, ZumirajReappliesTheZoom) {
   WindowFixture f;
   auto& w = f.Make();
-  w.Zoom = 12;
+  w.SetView(12, w.View().CenterX(), w.View().CenterY());
   f.surface.ClearOps();
   w.Zumiraj();
-  EXPECT_EQ(w.lblzm.Caption, "12");
+  EXPECT_EQ(w.lblzm().Caption, "12");
   EXPECT_EQ(f.surface.Ops().front().kind, RecordingSurface::Kind::Clear);
 }
 
 TEST(Zoom, ActivationShowsTheWindowsOwnZoom) {
   WindowFixture f;
   auto& w = f.Make();
-  w.Zoom = 15;
+  w.SetView(15, w.View().CenterX(), w.View().CenterY());
   w.Activate();
-  EXPECT_EQ(w.zoomMenu.ZoomOut, "> Zoomout (10)");
-  EXPECT_EQ(w.zoomMenu.Custom, "Custom...");
-  EXPECT_EQ(w.zoomMenu.ZoomIn, "Zoomin");
-  EXPECT_EQ(w.zoomMenu.Default, "Default");
-  EXPECT_EQ(w.zlevel, 15);
-  w.Zoom = 50;
+  EXPECT_EQ(w.zoomMenu().ZoomOut, "> Zoomout (10)");
+  EXPECT_EQ(w.zoomMenu().Custom, "Custom...");
+  EXPECT_EQ(w.zoomMenu().ZoomIn, "Zoomin");
+  EXPECT_EQ(w.zoomMenu().Default, "Default");
+  EXPECT_EQ(w.View().zlevel(), 15);
+  w.SetView(50, w.View().CenterX(), w.View().CenterY());
   w.Activate();
-  EXPECT_EQ(w.zoomMenu.ZoomIn, "> Zoom&In (50)");
-  w.Zoom = 30;
+  EXPECT_EQ(w.zoomMenu().ZoomIn, "> Zoom&In (50)");
+  w.SetView(30, w.View().CenterX(), w.View().CenterY());
   w.Activate();
-  EXPECT_EQ(w.zoomMenu.Default, "> Default (30)");
-  w.Zoom = 44;
+  EXPECT_EQ(w.zoomMenu().Default, "> Default (30)");
+  w.SetView(44, w.View().CenterX(), w.View().CenterY());
   w.Activate();
-  EXPECT_EQ(w.zoomMenu.Custom, "> Custom (44)");
+  EXPECT_EQ(w.zoomMenu().Custom, "> Custom (44)");
   EXPECT_EQ(f.host.statusTexts.back(), "Moved:");
 }
 
@@ -191,19 +191,94 @@ TEST_P(MoveTest, ShiftsTheCentreInGridSteps) {
   EXPECT_EQ(f.input.AskedBoxes()[0].title, c.title);
   EXPECT_EQ(f.input.AskedBoxes()[0].prompt, "Enter value for moving center of plotting area.");
   EXPECT_EQ(f.input.AskedBoxes()[0].defaultText, "1");
-  EXPECT_DOUBLE_EQ(w.CenterX, c.centerX);
-  EXPECT_DOUBLE_EQ(w.CenterY, c.centerY);
-  EXPECT_DOUBLE_EQ(w.MoveX, c.moveX);
-  EXPECT_DOUBLE_EQ(w.MoveY, c.moveY);
-  EXPECT_EQ(w.MovedText, c.moved);
+  EXPECT_DOUBLE_EQ(w.View().CenterX(), c.centerX);
+  EXPECT_DOUBLE_EQ(w.View().CenterY(), c.centerY);
+  EXPECT_DOUBLE_EQ(w.View().MoveX(), c.moveX);
+  EXPECT_DOUBLE_EQ(w.View().MoveY(), c.moveY);
+  EXPECT_EQ(w.View().MovedText(), c.moved);
   EXPECT_EQ(f.host.statusTexts.back(), c.moved);
-  EXPECT_FALSE(w.Drawing);
+  EXPECT_FALSE(w.State().Drawing());
   EXPECT_EQ(f.surface.Ops().front().kind, RecordingSurface::Kind::Clear);
   // The paper follows: the Y axis stands at the new centre.
   const auto axes = f.surface.LinesIn(0);
   ASSERT_EQ(axes.size(), 2u);
   EXPECT_DOUBLE_EQ(axes[0].x1, c.centerX);
   EXPECT_DOUBLE_EQ(axes[1].y1, c.centerY);
+}
+
+// The catalogue and velmora-cli give the answer themselves: the same move,
+// no question.
+TEST_P(MoveTest, TheApplyIsTheMenusMoveWithoutTheQuestion) {
+  const auto& c = GetParam();
+  WindowFixture f;
+  f.settings.Store("Grid", "ScaleX", c.scaleX);
+  auto& w = f.Make();
+  const std::string title = c.title;
+  const MoveDirection direction = title == "Moving Right"  ? MoveDirection::Right
+                                  : title == "Moving Left" ? MoveDirection::Left
+                                  : title == "Moving Up"   ? MoveDirection::Up
+                                                           : MoveDirection::Down;
+  w.ApplyMove(direction, c.answer);
+  EXPECT_TRUE(f.input.AskedBoxes().empty());
+  EXPECT_DOUBLE_EQ(w.View().CenterX(), c.centerX);
+  EXPECT_DOUBLE_EQ(w.View().CenterY(), c.centerY);
+  EXPECT_DOUBLE_EQ(w.View().MoveX(), c.moveX);
+  EXPECT_DOUBLE_EQ(w.View().MoveY(), c.moveY);
+  EXPECT_EQ(w.View().MovedText(), c.moved);
+  EXPECT_EQ(f.host.statusTexts.back(), c.moved);
+}
+
+TEST(Move, AnEmptyAnswerOrADrawChangesNothing) {
+  WindowFixture f;
+  auto& w = f.Make();
+  w.ApplyMove(MoveDirection::Right, "");
+  {
+    const auto busy = w.Busy();
+    w.ApplyMove(MoveDirection::Right, "2");
+  }
+  EXPECT_EQ(w.View().CenterX(), 300);
+  EXPECT_EQ(w.View().MovedText(), "Moved:");
+  EXPECT_FALSE(w.View().MovedRight());
+}
+
+struct FineApplyCase {
+  const char* answer;
+  double zoom;
+  std::size_t messages;
+  const char* why;
+};
+
+class FineZoomApply : public ::testing::TestWithParam<FineApplyCase> {};
+
+TEST_P(FineZoomApply, TheAnswerGivenDirectly) {
+  const auto& c = GetParam();
+  WindowFixture f;
+  auto& w = f.Make();
+  w.ApplyFineZoom(c.answer);
+  EXPECT_TRUE(f.input.AskedBoxes().empty());
+  EXPECT_EQ(w.View().Zoom(), c.zoom) << c.why;
+  ASSERT_EQ(f.messages.Boxes().size(), c.messages) << c.why;
+  if (c.messages > 0) {
+    EXPECT_EQ(f.messages.Boxes()[0].text, "Input out of range (5-200)!");
+  }
+}
+
+INSTANTIATE_TEST_SUITE_P(Answers, FineZoomApply,
+                         ::testing::Values(FineApplyCase{"44", 44, 0, "in range: the new zoom"},
+                                           FineApplyCase{"4", 4, 1, "out of range stays, unpainted"},
+                                           FineApplyCase{"", 30, 0, "empty: nothing"}));
+
+TEST(PlotWidth, TheApplyTakesAPositiveNumberAndRefusesTheRest) {
+  WindowFixture f;
+  auto& w = f.Make();
+  EXPECT_TRUE(w.ApplyPlotWidth("2.5"));
+  EXPECT_EQ(w.Pen().GraphLineWidth(), 2.5);
+  EXPECT_FALSE(w.ApplyPlotWidth("-1"));
+  EXPECT_FALSE(w.ApplyPlotWidth("wide"));
+  EXPECT_EQ(w.Pen().GraphLineWidth(), 2.5);
+  ASSERT_EQ(f.messages.Boxes().size(), 2u);
+  EXPECT_EQ(f.messages.Boxes()[1].text, "Invalid input: Line width = wide.");
+  EXPECT_TRUE(f.input.AskedBoxes().empty());
 }
 
 INSTANTIATE_TEST_SUITE_P(
@@ -229,18 +304,18 @@ TEST(Move, FlagsAndPomeri) {
   EXPECT_EQ(w.PomeriX(5), 5);
   f.input.Answer(std::string("2"));
   w.mnuright();
-  EXPECT_TRUE(w.MovedRight);
-  EXPECT_FALSE(w.MovedLeft);
+  EXPECT_TRUE(w.View().MovedRight());
+  EXPECT_FALSE(w.View().MovedLeft());
   EXPECT_EQ(w.PomeriX(5), 3);
   EXPECT_EQ(w.PomeriY(5), 5);
   f.input.Answer(std::string("1"));
   w.mnuleft();
-  EXPECT_TRUE(w.MovedLeft);
-  EXPECT_FALSE(w.MovedRight);
-  EXPECT_EQ(w.MovedText, "Moved: R: 2 L: 1");
+  EXPECT_TRUE(w.View().MovedLeft());
+  EXPECT_FALSE(w.View().MovedRight());
+  EXPECT_EQ(w.View().MovedText(), "Moved: R: 2 L: 1");
   f.input.Answer(std::string("1"));
   w.mnudown();
-  EXPECT_TRUE(w.MovedDown);
+  EXPECT_TRUE(w.View().MovedDown());
   EXPECT_EQ(w.PomeriY(5), 6);
 }
 
@@ -249,10 +324,10 @@ TEST(Move, AnEmptyAnswerOrADrawDoesNothing) {
   auto& w = f.Make();
   f.input.Answer(std::string());
   w.mnuup();
-  EXPECT_EQ(w.CenterY, 200);
-  EXPECT_FALSE(w.MovedUp);
-  EXPECT_EQ(w.MovedText, "Moved:");
-  w.Drawing = true;
+  EXPECT_EQ(w.View().CenterY(), 200);
+  EXPECT_FALSE(w.View().MovedUp());
+  EXPECT_EQ(w.View().MovedText(), "Moved:");
+  auto busy = w.Busy();
   w.mnuright();  // no box is asked during a draw
   EXPECT_EQ(f.input.AskedBoxes().size(), 1u);
 }
@@ -265,11 +340,11 @@ TEST(Move, CenterBringsTheOriginBackAndResetsTheText) {
   f.input.Answer(std::string("3"));
   w.mnuup();
   w.mnuCenter();
-  EXPECT_EQ(w.CenterX, 300);
-  EXPECT_EQ(w.CenterY, 200);
-  EXPECT_EQ(w.MoveX, 0);
-  EXPECT_EQ(w.MoveY, 0);
-  EXPECT_EQ(w.MovedText, "Moved:");
+  EXPECT_EQ(w.View().CenterX(), 300);
+  EXPECT_EQ(w.View().CenterY(), 200);
+  EXPECT_EQ(w.View().MoveX(), 0);
+  EXPECT_EQ(w.View().MoveY(), 0);
+  EXPECT_EQ(w.View().MovedText(), "Moved:");
   EXPECT_EQ(f.host.statusTexts.back(), "Moved:");
 }
 
@@ -280,9 +355,9 @@ TEST(Move, AHugeMoveDoesNotFailTheWindow) {
   w.mnuright();
   f.input.Answer(std::string("1e300"));
   w.mnuright();
-  EXPECT_FALSE(w.Drawing);
+  EXPECT_FALSE(w.State().Drawing());
   w.mnuCenter();
-  EXPECT_EQ(w.MoveX, 0);
+  EXPECT_EQ(w.View().MoveX(), 0);
 }
 
 }  // namespace

@@ -88,12 +88,13 @@ TEST_P(ReadoutTest, Text) {
   WindowFixture f;
   GraphWindow& w = f.Make(EvaluatorScript(f.engine));
   w.optFunk(c.type);
-  w.txtY.Text = c.y;
-  w.txtX.Text = c.x;
-  w.Plotted = c.plotted;
+  w.SettxtY(c.y);
+  w.SettxtX(c.x);
+  if (c.plotted) w.DrawFromTxtY();  // the trace needs a finished plot
+  ASSERT_EQ(w.State().Plotted(), c.plotted);
   MouseReadout readout(w);
   readout.MouseMove(c.button, c.mouseX, c.mouseY);
-  EXPECT_EQ(w.LblChart.Caption, c.text);
+  EXPECT_EQ(w.LblChart().Caption, c.text);
 }
 
 INSTANTIATE_TEST_SUITE_P(Cases, ReadoutTest, ::testing::ValuesIn(kCases),
@@ -104,9 +105,9 @@ class ReadoutLines : public ::testing::Test {
   GraphWindow& Make(int type, const char* y, const char* x = "K") {
     GraphWindow& w = f.Make(EvaluatorScript(f.engine));
     w.optFunk(type);
-    w.txtY.Text = y;
-    w.txtX.Text = x;
-    w.Plotted = true;
+    w.SettxtY(y);
+    w.SettxtX(x);
+    w.DrawFromTxtY();  // the trace needs a finished plot
     return w;
   }
   WindowFixture f;
@@ -117,16 +118,16 @@ TEST_F(ReadoutLines, CartesianTraceShowsCrossHairsAndTheTangentMark) {
   MouseReadout readout(w);
   readout.MouseMove(kRight, 330, 200);
   // The horizontal bar at the value: 200 - 0.84147 * 30, three decimals.
-  EXPECT_TRUE(w.LineY.Visible);
-  EXPECT_DOUBLE_EQ(w.LineY.Y1, 174.756);
-  EXPECT_DOUBLE_EQ(w.LineY.Y2, 174.756);
-  EXPECT_DOUBLE_EQ(w.LineY.X1, 0);
-  EXPECT_DOUBLE_EQ(w.LineY.X2, 600);
+  EXPECT_TRUE(w.LineY().Visible);
+  EXPECT_DOUBLE_EQ(w.LineY().Y1, 174.756);
+  EXPECT_DOUBLE_EQ(w.LineY().Y2, 174.756);
+  EXPECT_DOUBLE_EQ(w.LineY().X1, 0);
+  EXPECT_DOUBLE_EQ(w.LineY().X2, 600);
   // The vertical bar at the mouse column.
-  EXPECT_TRUE(w.Line2.Visible);
-  EXPECT_DOUBLE_EQ(w.Line2.X1, 330);
-  EXPECT_DOUBLE_EQ(w.Line2.Y1, 0);
-  EXPECT_DOUBLE_EQ(w.Line2.Y2, 400);
+  EXPECT_TRUE(w.Line2().Visible);
+  EXPECT_DOUBLE_EQ(w.Line2().X1, 330);
+  EXPECT_DOUBLE_EQ(w.Line2().Y1, 0);
+  EXPECT_DOUBLE_EQ(w.Line2().Y2, 400);
   // The tangent mark: 4 units either side of (1, sin 1) along the slope of
   // the central difference on values cut to 3 decimals. The cut of
   // 1.001 * 1000 falls to 1000 in binary, so the step is one-sided here and
@@ -136,52 +137,54 @@ TEST_F(ReadoutLines, CartesianTraceShowsCrossHairsAndTheTangentMark) {
   EXPECT_NEAR(v.slope, (std::sin(cut(1.001)) - std::sin(cut(0.999))) / 0.002, 1e-9);
   EXPECT_NEAR(v.ty, std::sin(1.0), 1e-12);
   const double a = std::atan(v.slope);
-  EXPECT_TRUE(w.Line1.Visible);
-  EXPECT_NEAR(w.Line1.X1, 300 + 30 * (1 - 4 * std::cos(a)), 1e-9);
-  EXPECT_NEAR(w.Line1.Y1, 200 - 30 * (std::sin(1.0) - 4 * std::sin(a)), 1e-9);
-  EXPECT_NEAR(w.Line1.X2, 300 + 30 * (1 + 4 * std::cos(a)), 1e-9);
-  EXPECT_NEAR(w.Line1.Y2, 200 - 30 * (std::sin(1.0) + 4 * std::sin(a)), 1e-9);
+  EXPECT_TRUE(w.Line1().Visible);
+  EXPECT_NEAR(w.Line1().X1, 300 + 30 * (1 - 4 * std::cos(a)), 1e-9);
+  EXPECT_NEAR(w.Line1().Y1, 200 - 30 * (std::sin(1.0) - 4 * std::sin(a)), 1e-9);
+  EXPECT_NEAR(w.Line1().X2, 300 + 30 * (1 + 4 * std::cos(a)), 1e-9);
+  EXPECT_NEAR(w.Line1().Y2, 200 - 30 * (std::sin(1.0) + 4 * std::sin(a)), 1e-9);
   // A release hides all three.
   readout.MouseUp();
-  EXPECT_FALSE(w.LineY.Visible);
-  EXPECT_FALSE(w.Line1.Visible);
-  EXPECT_FALSE(w.Line2.Visible);
+  EXPECT_FALSE(w.LineY().Visible);
+  EXPECT_FALSE(w.Line1().Visible);
+  EXPECT_FALSE(w.Line2().Visible);
 }
 
 TEST_F(ReadoutLines, TheHorizontalBarUsesHalfTheHeightNotTheCentre) {
   GraphWindow& w = Make(kCartesian, "2");
-  w.CenterY = 260;  // the origin moved down by 2 units
+  f.settings.Store("Grid", "ScaleX", "1");
+  w.ApplyMove(MoveDirection::Down, "2");
+  ASSERT_EQ(w.View().CenterY(), 260);  // the origin moved down by 2 units
   MouseReadout readout(w);
   readout.MouseMove(kRight, 300, 100);
-  EXPECT_DOUBLE_EQ(w.LineY.Y1, 200 - 2 * 30);
+  EXPECT_DOUBLE_EQ(w.LineY().Y1, 200 - 2 * 30);
 }
 
 TEST_F(ReadoutLines, AnErrorValueLeavesTheHorizontalBarWhereItWas) {
   GraphWindow& w = Make(kCartesian, "1/(X-1)");
   MouseReadout readout(w);
   readout.MouseMove(kRight, 360, 200);  // x = 2: 1
-  EXPECT_DOUBLE_EQ(w.LineY.Y1, 170);
+  EXPECT_DOUBLE_EQ(w.LineY().Y1, 170);
   readout.MouseMove(kRight, 330.0003, 200);  // x = 1.00001: 100000
-  EXPECT_EQ(w.LblChart.Caption, "    (x1 , y1) = (1 , Error )");
-  EXPECT_DOUBLE_EQ(w.LineY.Y1, 170);
+  EXPECT_EQ(w.LblChart().Caption, "    (x1 , y1) = (1 , Error )");
+  EXPECT_DOUBLE_EQ(w.LineY().Y1, 170);
 }
 
 TEST_F(ReadoutLines, ParametricShowsOnlyTheVerticalBar) {
   GraphWindow& w = Make(kParametric, "SinK", "CosK");
   MouseReadout readout(w);
   readout.MouseMove(kRight, 330, 200);
-  EXPECT_TRUE(w.Line2.Visible);
-  EXPECT_FALSE(w.Line1.Visible);
-  EXPECT_FALSE(w.LineY.Visible);
+  EXPECT_TRUE(w.Line2().Visible);
+  EXPECT_FALSE(w.Line1().Visible);
+  EXPECT_FALSE(w.LineY().Visible);
 }
 
 TEST_F(ReadoutLines, PolarShowsNoLinesAndKeepsTheRadiusOfTheFunction) {
   GraphWindow& w = Make(kPolar, "2*K");
   MouseReadout readout(w);
   readout.MouseMove(kRight, 300, 170);
-  EXPECT_FALSE(w.Line1.Visible);
-  EXPECT_FALSE(w.Line2.Visible);
-  EXPECT_FALSE(w.LineY.Visible);
+  EXPECT_FALSE(w.Line1().Visible);
+  EXPECT_FALSE(w.Line2().Visible);
+  EXPECT_FALSE(w.LineY().Visible);
   EXPECT_NEAR(readout.Last().polarR, 2 * 1.5708, 1e-9);
 }
 
@@ -189,54 +192,56 @@ TEST_F(ReadoutLines, AnEmptyFunctionBoxLeavesTheTextOfTheMoveBefore) {
   GraphWindow& w = Make(kCartesian, "SinX");
   MouseReadout readout(w);
   readout.MouseMove(kNone, 330, 185);
-  w.txtY.Text.clear();
+  w.SettxtY("");
   readout.MouseMove(kRight, 360, 200);
-  EXPECT_EQ(w.LblChart.Caption, "   x = 1, y = 0.5");
-  EXPECT_FALSE(w.Line2.Visible);
+  EXPECT_EQ(w.LblChart().Caption, "   x = 1, y = 0.5");
+  EXPECT_FALSE(w.Line2().Visible);
 }
 
 TEST_F(ReadoutLines, AMovedCentreIsTakenOff) {
   GraphWindow& w = Make(kCartesian, "X");
-  w.MovedRight = true;
-  w.MoveX = 2;
-  w.MovedUp = true;
-  w.MoveY = -1;
-  w.CenterX = 360;
-  w.CenterY = 170;
+  // Two steps right and one up, a step of one unit: the origin at (360, 170).
+  f.settings.Store("Grid", "ScaleX", "1");
+  w.ApplyMove(MoveDirection::Right, "2");
+  w.ApplyMove(MoveDirection::Up, "1");
+  ASSERT_EQ(w.View().CenterX(), 360);
+  ASSERT_EQ(w.View().CenterY(), 170);
+  ASSERT_EQ(w.View().MoveX(), 2);
+  ASSERT_EQ(w.View().MoveY(), 1);
   MouseReadout readout(w);
   readout.MouseMove(kNone, 330, 185);
-  EXPECT_EQ(w.LblChart.Caption, "   x = -1, y = 1.5");
+  EXPECT_EQ(w.LblChart().Caption, "   x = -1, y = -0.5");
   // The trace's value comes from the mouse with the move taken off: X at -1.
   readout.MouseMove(kRight, 330, 185);
-  EXPECT_EQ(w.LblChart.Caption, "    x = -1 [-1], y (x) = -1");
+  EXPECT_EQ(w.LblChart().Caption, "    x = -1 [-1], y (x) = -1");
 }
 
 TEST_F(ReadoutLines, NothingHappensDuringADraw) {
   GraphWindow& w = Make(kCartesian, "SinX");
-  w.LblChart.Caption = "before";
-  w.Drawing = true;
+  w.ShowReadout("before");
+  auto busy = w.Busy();
   MouseReadout readout(w);
   readout.MouseMove(kRight, 330, 200);
-  EXPECT_EQ(w.LblChart.Caption, "before");
-  EXPECT_FALSE(w.Line2.Visible);
-  w.Drawing = false;
+  EXPECT_EQ(w.LblChart().Caption, "before");
+  EXPECT_FALSE(w.Line2().Visible);
 }
 
 TEST_F(ReadoutLines, AZoomTextOfZeroReadsAsTheOrigin) {
   GraphWindow& w = Make(kCartesian, "SinX");
   MouseReadout readout(w);
-  w.lblzm.Caption = "0";
+  w.SetView(0, w.View().CenterX(), w.View().CenterY());
   // The division faults and is skipped: the position stays 0.
   readout.MouseMove(kNone, 400, 100);
-  EXPECT_EQ(w.LblChart.Caption, "   x = 0, y = 0");
+  EXPECT_EQ(w.LblChart().Caption, "   x = 0, y = 0");
 }
 
 TEST_F(ReadoutLines, TheMouseFormulaFollowsTheBoxNotTheLastDraw) {
-  GraphWindow& w = Make(kCartesian, "Exp(x)");
-  w.FuncY = "K";  // what a draw left: not used by the readout
+  GraphWindow& w = Make(kCartesian, "X");
+  ASSERT_EQ(w.State().FuncY(), "K");
+  w.SettxtY("Exp(x)");  // typed after the draw: the readout follows the box
   MouseReadout readout(w);
   readout.MouseMove(kRight, 300, 200);
-  EXPECT_EQ(w.LblChart.Caption, "    x = 0 [0], y (x) = 1");
+  EXPECT_EQ(w.LblChart().Caption, "    x = 0 [0], y (x) = 1");
 }
 
 }  // namespace

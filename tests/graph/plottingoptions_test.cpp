@@ -194,8 +194,7 @@ TEST_F(ApplyTest, CancelOfTheQuestionLeavesThePicture) {
 
 TEST_F(ApplyTest, WithAutoRedrawTheFunctionsComeBackWithoutAQuestion) {
   GraphWindow& w = Window();
-  w.txtY.List = {"X"};
-  w.KolkoFunkc = 1;
+  testing::HoldFunctions(w, {"X"});
   PlottingOptions o;
   o.Load(f.settings);
   o.texts[PlottingOptions::kTxtX] = "2";
@@ -205,8 +204,8 @@ TEST_F(ApplyTest, WithAutoRedrawTheFunctionsComeBackWithoutAQuestion) {
   EXPECT_EQ(f.settings.Query("Grid", "ScaleX"), std::optional<std::string>("2"));
   EXPECT_EQ(f.surface.Ops()[0].kind, RecordingSurface::Kind::Clear);
   // RedrawFunc replayed the list: "X" is in the box again.
-  EXPECT_EQ(w.txtY.Text, "X");
-  EXPECT_EQ(w.KolkoFunkc, 1);
+  EXPECT_EQ(w.Boxes().txtY().Text, "X");
+  EXPECT_EQ(w.State().KolkoFunkc(), 1);
 }
 
 TEST_F(ApplyTest, AssignAxesTicksTheWindowsTransparentBox) {
@@ -215,15 +214,15 @@ TEST_F(ApplyTest, AssignAxesTicksTheWindowsTransparentBox) {
   o.Load(f.settings);
   o.SetCheck(2, true);
   o.Check2Click(&w);
-  EXPECT_TRUE(w.Check1);
+  EXPECT_TRUE(w.Check1());
   EXPECT_TRUE(w.pDraw().FontTransparent());
   o.SetCheck(2, false);
   o.Check2Click(&w);
-  EXPECT_FALSE(w.Check1);
+  EXPECT_FALSE(w.Check1());
   EXPECT_FALSE(w.pDraw().FontTransparent());
   o.SetCheck(2, true);
   o.Apply(f.settings, f.messages, &w);
-  EXPECT_TRUE(w.Check1);
+  EXPECT_TRUE(w.Check1());
 }
 
 TEST(PlottingOptions, ApplyWithoutAWindowWritesTheKeysOnly) {

@@ -45,7 +45,7 @@ class ScriptStrategy final : public SampleStrategy {
 struct LoopFixture : WindowFixture {
   explicit LoopFixture(int width = 600, int height = 400) : WindowFixture(width, height) {
     Make();
-    window->Graph_Clr = kCurve;
+    window->ChooseGraphColour(kCurve);
     surface.ClearOps();
   }
   LoopResult Run(ScriptStrategy& strategy) {
@@ -68,8 +68,7 @@ class SampleCountTest : public ::testing::TestWithParam<CountCase> {};
 TEST_P(SampleCountTest, ScaleWidthPlusOneAtAnyZoom) {
   const auto& c = GetParam();
   LoopFixture f(c.width, 400);
-  f.window->Zoom = c.zoom;
-  f.window->CenterX = c.width * c.centre;
+  f.window->SetView(c.zoom, c.width * c.centre, f.window->View().CenterY());
   ScriptStrategy s([](double) { return 1.0; });
   const LoopResult r = f.Run(s);
   EXPECT_EQ(r.passes, c.width + 1);
@@ -98,8 +97,7 @@ TEST(SamplingLoop, KRunsFromTheLeftEdgeToTheRightEdgeByOnePixel) {
 TEST(SamplingLoop, KIsCutToThreeDecimalsTowardMinusInfinity) {
   // Zoom 32 makes every K exact: -1 + i / 32.
   LoopFixture f(64, 400);
-  f.window->Zoom = 32;
-  f.window->CenterX = 32;
+  f.window->SetView(32, 32, f.window->View().CenterY());
   ScriptStrategy s([](double) { return 1.0; });
   f.Run(s);
   ASSERT_EQ(s.asked.size(), 65u);
@@ -131,7 +129,8 @@ class PlottedValueTest : public ::testing::TestWithParam<ValueCase> {};
 
 TEST_P(PlottedValueTest, ConstantCurve) {
   LoopFixture f(600, 400);
-  f.window->Zoom = 1;  // 100 units stay on the surface
+  f.window->SetView(1, f.window->View().CenterX(),
+                    f.window->View().CenterY());  // 100 units stay on the surface
   const double y = GetParam().y;
   ScriptStrategy s([y](double) { return y; });
   f.Run(s);
@@ -160,7 +159,7 @@ INSTANTIATE_TEST_SUITE_P(
 
 TEST(SamplingLoop, LinesGoInTheGraphColourWithTheLineWidth) {
   LoopFixture f;
-  f.window->GraphLineWidth = 2.5;  // to a whole pixel, ties to even
+  f.window->SetGraphLineWidth(2.5);  // to a whole pixel, ties to even
   ScriptStrategy s([](double k) { return k / 2; });
   f.Run(s);
   const auto lines = f.surface.Lines();
@@ -241,7 +240,7 @@ TEST(SamplingLoop, AnXThatIsNotFiniteMakesThePenInvisible) {
 
 TEST(SamplingLoop, TheTextOfYDecidesTheInvisiblePen) {
   LoopFixture f;
-  f.window->Zoom = 1;
+  f.window->SetView(1, f.window->View().CenterX(), f.window->View().CenterY());
   int i = 0;
   // 100.000000000000014 reads "100": skipped as beyond 100, but its text is not.
   ScriptStrategy s([&i](double) { return i++ == 3 ? 100.000000000000014 : 1.0; });
@@ -271,7 +270,7 @@ TEST(SamplingLoop, OffTheSurfaceTheLineGoesToTheFirstPointOutThenThePenTravelsUn
 TEST(SamplingLoop, RowZeroIsOffTheSurface) {
   LoopFixture f;
   ScriptStrategy s([](double) { return 200.0 / 30.0; });  // Yp = 0 exactly
-  f.window->CenterY = 200;
+  f.window->SetView(30, f.window->View().CenterX(), 200);
   f.Run(s);
   EXPECT_TRUE(f.surface.Lines().empty());
   EXPECT_EQ(f.observer.passes[0].action, PassAction::Move);
@@ -282,7 +281,6 @@ TEST(SamplingLoop, RowZeroIsOffTheSurface) {
 TEST(SamplingLoop, XpocIsTakenAtTheFirstPlottedSampleInCartesianTypeOnly) {
   LoopFixture f;
   ScriptStrategy cartesian([](double k) { return k > 2 ? 1.0 : 0.0; }, nullptr, true);
-  f.window->Xpoc = 99;
   f.Run(cartesian);
   double firstPlotted = 0;
   for (const double kr : cartesian.asked) {
@@ -291,22 +289,24 @@ TEST(SamplingLoop, XpocIsTakenAtTheFirstPlottedSampleInCartesianTypeOnly) {
       break;
     }
   }
-  EXPECT_NEAR(f.window->Xpoc, firstPlotted, 1e-9);  // in user units: the first plotted X
+  EXPECT_NEAR(f.window->State().Xpoc(), firstPlotted, 1e-9);  // in user units: the first plotted X
   ScriptStrategy other([](double) { return 1.0; }, nullptr, false);
-  f.window->Xpoc = 99;
+  const double taken = f.window->State().Xpoc();
+  ASSERT_NE(taken, -10);  // what the other run would take
   f.Run(other);
-  EXPECT_EQ(f.window->Xpoc, 99);
+  EXPECT_EQ(f.window->State().Xpoc(), taken);
 }
 
 TEST(SamplingLoop, XpocTakesTheMoveOff) {
   LoopFixture f;
-  f.window->MovedRight = true;
-  f.window->MoveX = 2;
-  f.window->CenterX = 360;  // moved right by 2 units
+  f.settings.Store("Grid", "ScaleX", "1");
+  f.window->ApplyMove(MoveDirection::Right, "2");
+  ASSERT_EQ(f.window->View().CenterX(), 360);  // moved right by 2 units
+  f.surface.ClearOps();
   ScriptStrategy s([](double) { return 1.0; });
   f.Run(s);
   // The first column is user X -12; the zoom text takes it from the middle.
-  EXPECT_NEAR(f.window->Xpoc, (0 - 300) / 30.0 - 2, 1e-9);
+  EXPECT_NEAR(f.window->State().Xpoc(), (0 - 300) / 30.0 - 2, 1e-9);
 }
 
 // ---- Stop and events
@@ -341,9 +341,9 @@ TEST(SamplingLoop, ProgressTextPerDrawnSample) {
   f.Run(s);
   EXPECT_EQ(f.host.pumps, 601);
   // The last K is the right edge give or take the sum's rounding.
-  EXPECT_TRUE(f.window->lblPerCent.Caption == "Done...   100%" ||
-              f.window->lblPerCent.Caption == "Done...   99%")
-      << f.window->lblPerCent.Caption;
+  EXPECT_TRUE(f.window->lblPerCent().Caption == "Done...   100%" ||
+              f.window->lblPerCent().Caption == "Done...   99%")
+      << f.window->lblPerCent().Caption;
   EXPECT_EQ(SamplingLoop::ProgressText(0, 300, 30, 600), "Done...   50%");
   EXPECT_EQ(SamplingLoop::ProgressText(-9.99, 300, 30, 600), "Done...   0%");
   EXPECT_EQ(SamplingLoop::ProgressText(1, 0, 30, 0), "Done...   %");  // a fault leaves the number out
@@ -354,7 +354,7 @@ TEST(SamplingLoop, ProgressTextPerDrawnSample) {
 
 TEST(SamplingLoop, KRangeFollowsTheCentre) {
   LoopFixture f;
-  f.window->CenterX = 100;
+  f.window->SetView(30, 100, f.window->View().CenterY());
   ScriptStrategy s([](double) { return 1.0; });
   f.Run(s);
   EXPECT_DOUBLE_EQ(s.asked.front(), std::floor(-100.0 / 30 * 1000) / 1000);
@@ -363,14 +363,14 @@ TEST(SamplingLoop, KRangeFollowsTheCentre) {
 
 TEST(SamplingLoop, AZoomOfZeroRunsNoPass) {
   LoopFixture f;
-  f.window->Zoom = 0;
+  f.window->SetView(0, f.window->View().CenterX(), f.window->View().CenterY());
   ScriptStrategy s([](double) { return 1.0; });
   EXPECT_EQ(f.Run(s).passes, 0);
 }
 
 TEST(SamplingLoop, ACentreBeyondThePixelRangeDoesNotHangOrThrow) {
   LoopFixture f;
-  f.window->CenterX = 1e20;
+  f.window->SetView(30, 1e20, f.window->View().CenterY());
   ScriptStrategy s([](double) { return 1.0; });
   const LoopResult r = f.Run(s);
   EXPECT_LE(r.passes, 601);

@@ -40,20 +40,20 @@ TEST(ViewResize, AnUnmovedWindowKeepsItsOriginInTheMiddle) {
   const auto plan = ViewResize::PlanFor(600, 400, 801, 500);
   f.surface.Resize(801, 500);
   ViewResize::Apply(w, plan);
-  EXPECT_DOUBLE_EQ(w.CenterX, 801 / 2.0);
-  EXPECT_DOUBLE_EQ(w.CenterY, 250);
+  EXPECT_DOUBLE_EQ(w.View().CenterX(), 801 / 2.0);
+  EXPECT_DOUBLE_EQ(w.View().CenterY(), 250);
 }
 
 TEST(ViewResize, AMovedWindowKeepsItsMove) {
   testing::WindowFixture f;
   GraphWindow& w = f.Make();
-  w.CenterX = 360;  // moved right by 2 units
+  w.SetView(30, 360, w.View().CenterY());  // moved right by 2 units
   w.pDraw().SetCurrentX(10);
   w.pDraw().SetCurrentY(20);
   const auto plan = ViewResize::PlanFor(600, 400, 800, 400);
   ViewResize::Apply(w, plan);
-  EXPECT_DOUBLE_EQ(w.CenterX, 460);
-  EXPECT_DOUBLE_EQ(w.CenterX - 800 / 2.0, 60);  // still 2 units right of the middle
+  EXPECT_DOUBLE_EQ(w.View().CenterX(), 460);
+  EXPECT_DOUBLE_EQ(w.View().CenterX() - 800 / 2.0, 60);  // still 2 units right of the middle
   // A draw in progress goes on from the moved current point.
   EXPECT_DOUBLE_EQ(w.pDraw().CurrentX(), 110);
   EXPECT_DOUBLE_EQ(w.pDraw().CurrentY(), 20);
@@ -73,10 +73,14 @@ TEST_P(SettleTest, RepaintsOnlyWhatCanComeBack) {
   testing::WindowFixture f;
   GraphWindow& w = f.Make();
   f.settings.Store("Grid", "Autored", c.autored);
-  w.KolkoFunkc = c.functions;
-  w.Drawing = c.drawing;
-  EXPECT_EQ(ViewResize::RepaintWhenSettled(w, f.settings), c.repaint);
-  w.Drawing = false;
+  for (int i = 0; i < c.functions; ++i) testing::HoldFunctions(w, {"X"});
+  ASSERT_EQ(w.State().KolkoFunkc(), c.functions);
+  if (c.drawing) {
+    const auto busy = w.Busy();
+    EXPECT_EQ(ViewResize::RepaintWhenSettled(w, f.settings), c.repaint);
+  } else {
+    EXPECT_EQ(ViewResize::RepaintWhenSettled(w, f.settings), c.repaint);
+  }
 }
 
 INSTANTIATE_TEST_SUITE_P(Cases, SettleTest,
@@ -88,14 +92,13 @@ INSTANTIATE_TEST_SUITE_P(Cases, SettleTest,
 TEST(ViewResize, RepaintClearsPaintsAndReplays) {
   testing::WindowFixture f;
   GraphWindow& w = f.Make();
-  w.txtY.List = {"X"};
-  w.KolkoFunkc = 1;
+  testing::HoldFunctions(w, {"X"});
   f.surface.ClearOps();
   ViewResize::Repaint(w, f.settings);
   ASSERT_FALSE(f.surface.Ops().empty());
   EXPECT_EQ(f.surface.Ops()[0].kind, testing::RecordingSurface::Kind::Clear);
   EXPECT_FALSE(f.surface.LinesIn(0xBFBFBF).empty());
-  EXPECT_EQ(w.txtY.Text, "X");
+  EXPECT_EQ(w.Boxes().txtY().Text, "X");
 }
 
 }  // namespace

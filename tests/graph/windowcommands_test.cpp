@@ -38,10 +38,7 @@ class CommandsTest : public ::testing::Test {
 
   GraphWindow& W() { return *f.window; }
   // A window that holds one function in its list.
-  void OneFunction() {
-    W().txtY.List = {"X"};
-    W().KolkoFunkc = 1;
-  }
+  void OneFunction() { testing::HoldFunctions(W(), {"X"}); }
   bool Cleared() const {
     const auto& ops = f.surface.Ops();
     return !ops.empty() && ops[0].kind == RecordingSurface::Kind::Clear;
@@ -73,7 +70,7 @@ TEST_P(ColourTest, TheChosenColourIsUsedAndSaved) {
   ASSERT_EQ(colours.opened.size(), 1u);
   EXPECT_EQ(colours.opened[0], c.before);
   EXPECT_EQ(f.settings.Query("Boje", c.key), std::optional<std::string>("65280"));
-  EXPECT_FALSE(W().Zezaj);
+  EXPECT_FALSE(W().State().Zezaj());
 }
 
 INSTANTIATE_TEST_SUITE_P(
@@ -95,19 +92,19 @@ TEST_F(CommandsTest, ABackgroundColourRepaintsTheEmptyPaper) {
 TEST_F(CommandsTest, GridAndAxesColoursPaintThePaper) {
   colours.answers.push_back(0x0000FF);
   EXPECT_TRUE(commands->mnuBojeGrid());
-  EXPECT_EQ(W().GridColor, 0x0000FFu);
+  EXPECT_EQ(W().Pen().GridColor(), 0x0000FFu);
   EXPECT_FALSE(f.surface.LinesIn(0x0000FF).empty());
   colours.answers.push_back(0x00FF00);
   EXPECT_TRUE(commands->mnuBojeAxes());
-  EXPECT_EQ(W().AxesColor, 0x00FF00u);
+  EXPECT_EQ(W().Pen().AxesColor(), 0x00FF00u);
   EXPECT_FALSE(f.surface.LinesIn(0x00FF00).empty());
 }
 
 TEST_F(CommandsTest, AGraphColourIsTheColourOfTheNextPlotAndPaintsNothing) {
   colours.answers.push_back(0x123456);
   EXPECT_TRUE(commands->mnuBojeGraph());
-  EXPECT_EQ(W().Graph_Clr, 0x123456u);
-  EXPECT_EQ(W().lblBoja.BackColor, 0x123456u);
+  EXPECT_EQ(W().Pen().Graph_Clr(), 0x123456u);
+  EXPECT_EQ(W().Pen().lblBoja(), 0x123456u);
   EXPECT_TRUE(f.surface.Ops().empty());
 }
 
@@ -120,14 +117,14 @@ TEST_F(CommandsTest, ACancelledColourChangesNothing) {
 }
 
 TEST_F(CommandsTest, DefaultColoursComeBack) {
-  W().GridColor = 1;
-  W().AxesColor = 2;
-  W().Graph_Clr = 3;
+  W().SetGridColor(1);
+  W().SetAxesColor(2);
+  W().ChooseGraphColour(3);
   W().pDraw().SetBackColor(4);
   commands->ColourMenu(WindowCommands::ColourEntry::Default);
-  EXPECT_EQ(W().GridColor, 0xBFBFBFu);
-  EXPECT_EQ(W().AxesColor, 0u);
-  EXPECT_EQ(W().Graph_Clr, 0xC08000u);
+  EXPECT_EQ(W().Pen().GridColor(), 0xBFBFBFu);
+  EXPECT_EQ(W().Pen().AxesColor(), 0u);
+  EXPECT_EQ(W().Pen().Graph_Clr(), 0xC08000u);
   EXPECT_EQ(W().pDraw().BackColor(), 0xF5F5F5u);
   EXPECT_EQ(f.settings.Query("Boje", "Grafik"), std::optional<std::string>("12615680"));
   EXPECT_EQ(f.settings.Query("Boje", "Pozadina"), std::optional<std::string>("16119285"));
@@ -137,10 +134,10 @@ TEST_F(CommandsTest, DefaultColoursComeBack) {
 
 TEST_F(CommandsTest, AColourMenuRedrawsTheFunctionsOfTheWindow) {
   OneFunction();
-  W().txtY.Text = "other";
+  W().SettxtY("other");
   colours.answers.push_back(0x00FF00);
   commands->ColourMenu(WindowCommands::ColourEntry::Axes);
-  EXPECT_EQ(W().txtY.Text, "X");  // the list was replayed
+  EXPECT_EQ(W().Boxes().txtY().Text, "X");  // the list was replayed
 }
 
 TEST_F(CommandsTest, NoColourDialogMeansNoColourCommand) {
@@ -159,12 +156,12 @@ TEST_F(CommandsTest, ClearAllAsksAndClearsTheLists) {
   EXPECT_EQ(f.messages.Boxes()[0].text, "Clear graphs and equation lists?");
   EXPECT_EQ(f.messages.Boxes()[0].title, "Clear All");
   EXPECT_EQ(f.messages.Boxes()[0].buttons, MsgButtons::YesNo);
-  EXPECT_EQ(W().KolkoFunkc, 1);
+  EXPECT_EQ(W().State().KolkoFunkc(), 1);
   EXPECT_TRUE(f.surface.Ops().empty());
   f.messages.Answer(MsgResult::Yes);
   commands->ClearAll();
-  EXPECT_EQ(W().KolkoFunkc, 0);
-  EXPECT_TRUE(W().txtY.List.empty());
+  EXPECT_EQ(W().State().KolkoFunkc(), 0);
+  EXPECT_TRUE(W().Boxes().txtY().List.empty());
   EXPECT_TRUE(Cleared());
 }
 
@@ -180,23 +177,28 @@ TEST_F(CommandsTest, ClearScreenKeepsTheLists) {
   EXPECT_TRUE(f.messages.Boxes().empty());
   EXPECT_TRUE(Cleared());
   EXPECT_FALSE(f.surface.Lines().empty());  // the paper again
-  EXPECT_EQ(W().KolkoFunkc, 1);
-  EXPECT_EQ(W().txtY.List.size(), 1u);
-  EXPECT_FALSE(W().Zezaj);
+  EXPECT_EQ(W().State().KolkoFunkc(), 1);
+  EXPECT_EQ(W().Boxes().txtY().List.size(), 1u);
+  EXPECT_FALSE(W().State().Zezaj());
 }
 
 TEST_F(CommandsTest, ClearHistoryAsksThenEmptiesTheFile) {
   history->Append({"", " Y(X) = x"});
-  W().rtb = history->ReadAll();
+  // A window loads the history when it opens.
+  f.history = std::make_unique<HistoryLog>((folder_ / "GraphLog.txt").string());
+  f.Make();
+  commands =
+      std::make_unique<WindowCommands>(*f.window, f.settings, f.messages, &colours, &files, history.get());
+  ASSERT_FALSE(W().rtb().empty());
   f.messages.Answer(MsgResult::No);
   commands->mnuclhistory();
   EXPECT_EQ(f.messages.Boxes()[0].text, "Clear Function History?");
   EXPECT_EQ(f.messages.Boxes()[0].icon, MsgIcon::Question);
   EXPECT_EQ(f.messages.Boxes()[0].buttons, MsgButtons::YesNo);
-  EXPECT_FALSE(W().rtb.empty());
+  EXPECT_FALSE(W().rtb().empty());
   f.messages.Answer(MsgResult::Yes);
   commands->mnuclhistory();
-  EXPECT_TRUE(W().rtb.empty());
+  EXPECT_TRUE(W().rtb().empty());
   EXPECT_TRUE(history->ReadAll().empty());
 }
 
@@ -232,7 +234,7 @@ TEST_P(ClearGridTest, AsksOnlyWhenFunctionsWouldBeLost) {
   const ClearGridCase& c = GetParam();
   f.settings.Store("Grid", "Autored", c.autored);
   if (c.functions) OneFunction();
-  W().txtY.Text = "typed";
+  W().SettxtY("typed");
   if (c.asks) f.messages.Answer(c.answer);
   if (c.redraw) {
     commands->RedrawGrid();
@@ -249,36 +251,36 @@ TEST_P(ClearGridTest, AsksOnlyWhenFunctionsWouldBeLost) {
   }
   EXPECT_EQ(Cleared(), c.cleared);
   EXPECT_EQ(!f.surface.LinesIn(0xBFBFBF).empty(), c.paper);
-  EXPECT_EQ(W().txtY.Text == "X", c.replayed);
+  EXPECT_EQ(W().Boxes().txtY().Text == "X", c.replayed);
 }
 
 INSTANTIATE_TEST_SUITE_P(Cases, ClearGridTest, ::testing::ValuesIn(kClearGridCases),
                          [](const auto& param) { return std::string(param.param.name); });
 
 TEST_F(CommandsTest, ClearFunctionAsksThenEmptiesTheBox) {
-  W().txtY.Text = "SinX";
+  W().SettxtY("SinX");
   f.messages.Answer(MsgResult::Cancel);
   commands->ClearFju();
   EXPECT_EQ(f.messages.Boxes()[0].text, "Function expression will be erased.\r\nContinue?");
   EXPECT_EQ(f.messages.Boxes()[0].title, "Clear Function");
-  EXPECT_EQ(W().txtY.Text, "SinX");
+  EXPECT_EQ(W().Boxes().txtY().Text, "SinX");
   f.messages.Answer(MsgResult::Ok);
   commands->ClearFju();
-  EXPECT_TRUE(W().txtY.Text.empty());
+  EXPECT_TRUE(W().Boxes().txtY().Text.empty());
 }
 
 TEST_F(CommandsTest, SwapExchangesTheTwoTexts) {
-  W().txtY.Text = "SinK";
-  W().txtX.Text = "CosK";
+  W().SettxtY("SinK");
+  W().SettxtX("CosK");
   commands->SwapYX();
-  EXPECT_EQ(W().txtY.Text, "CosK");
-  EXPECT_EQ(W().txtX.Text, "SinK");
+  EXPECT_EQ(W().Boxes().txtY().Text, "CosK");
+  EXPECT_EQ(W().Boxes().txtX().Text, "SinK");
 }
 
 TEST_F(CommandsTest, NothingRunsDuringADraw) {
   OneFunction();
-  W().txtY.Text = "SinK";
-  W().Drawing = true;
+  W().SettxtY("SinK");
+  auto busy = W().Busy();
   commands->ClearAll();
   commands->ClearScreen();
   commands->ClearGrid();
@@ -289,12 +291,11 @@ TEST_F(CommandsTest, NothingRunsDuringADraw) {
   commands->ColourMenu(WindowCommands::ColourEntry::Background);
   commands->mnuBojeDef();
   EXPECT_FALSE(commands->Sav1([](const std::string&) { return true; }));
-  W().Drawing = false;
   EXPECT_TRUE(f.messages.Boxes().empty());
   EXPECT_TRUE(colours.opened.empty());
   EXPECT_TRUE(files.asked.empty());
   EXPECT_TRUE(f.surface.Ops().empty());
-  EXPECT_EQ(W().txtY.Text, "SinK");
+  EXPECT_EQ(W().Boxes().txtY().Text, "SinK");
 }
 
 // ---- Sav1 -----------------------------------------------------------------------------

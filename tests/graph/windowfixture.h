@@ -1,6 +1,7 @@
 #pragma once
 
 #include <functional>
+#include <initializer_list>
 #include <memory>
 #include <string>
 #include <vector>
@@ -46,6 +47,17 @@ class RecordingObserver final : public graph::LoopObserver {
   void Pass(const graph::LoopPass& pass) override { passes.push_back(pass); }
   std::vector<graph::LoopPass> passes;
 };
+
+// Puts functions in a window's list of drawn functions as Cartesian draws
+// do (the count grows with them), leaving the box's text as it was.
+inline void HoldFunctions(graph::GraphWindow& w, std::initializer_list<std::string> functions) {
+  const std::string text = w.Boxes().txtY().Text;
+  for (const auto& y : functions) {
+    w.SettxtY(y);
+    w.CrtajFJU();
+  }
+  w.SettxtY(text);
+}
 
 // A graph window on a recording surface with in-memory settings, recording
 // message and input boxes, a scripted formula engine (no value unless the

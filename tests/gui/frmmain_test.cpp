@@ -47,9 +47,9 @@ TEST(FrmMain, TypingSinXAndEnterDrawsItAndRefreshesTheFrame) {
   FrameFixture f;
   f.Start();
   f.TypeAndEnter(QStringLiteral("SinX"));
-  EXPECT_EQ(f.Logic().KolkoFunkc, 1);
-  EXPECT_TRUE(f.Logic().Plotted);
-  EXPECT_EQ(f.Logic().txtY.List, std::vector<std::string>{"SinX"});
+  EXPECT_EQ(f.Logic().State().KolkoFunkc(), 1);
+  EXPECT_TRUE(f.Logic().State().Plotted());
+  EXPECT_EQ(f.Logic().Boxes().txtY().List, std::vector<std::string>{"SinX"});
   EXPECT_EQ(f.Active().windowTitle(), QStringLiteral("Graph 1 - Y (X) = SinX"));
   EXPECT_EQ(f.Panel(1), QStringLiteral("Y (X) = SinX"));
   // The draw went to the recent functions, and the File menu shows it.
@@ -248,15 +248,15 @@ TEST(FrmMain, RecentFunctionsComeBackAfterARestartAndDrawWhenChosen) {
   EXPECT_EQ(f.Action("mnuRecent", 2)->text(), QStringLiteral("SinX ; K | Cartesian"));
   EXPECT_FALSE(f.Action("mnuRecent", 3)->isVisible());
   // Every start shows one empty graph window.
-  EXPECT_EQ(f.Logic().KolkoFunkc, 0);
+  EXPECT_EQ(f.Logic().State().KolkoFunkc(), 0);
   f.Trigger("mnuRecent", 2);
-  EXPECT_EQ(f.Logic().KolkoFunkc, 1);
-  EXPECT_EQ(f.Logic().optFunkcije, graph::kCartesian);
+  EXPECT_EQ(f.Logic().State().KolkoFunkc(), 1);
+  EXPECT_EQ(f.Logic().Boxes().optFunkcije(), graph::kCartesian);
   EXPECT_EQ(f.Active().txtY()->currentText(), QStringLiteral("SinX"));
   // Drawing it again brings it to the top of the list.
   EXPECT_EQ(f.Action("mnuRecent", 1)->text(), QStringLiteral("SinX ; K | Cartesian"));
   f.Trigger("mnuRecent", 2);  // the polar one, drawn as polar
-  EXPECT_EQ(f.Logic().optFunkcije, graph::kPolar);
+  EXPECT_EQ(f.Logic().Boxes().optFunkcije(), graph::kPolar);
   EXPECT_TRUE(f.Action("mnuftype", 2)->isChecked());
 }
 
@@ -271,7 +271,7 @@ TEST(FrmMain, ZoomFromTheMenuAndTheToolbarShowsItsTextsAndChecks) {
   FrameFixture f;
   f.Start();
   f.Trigger("mnuZoom", 0);  // Zoom&in
-  EXPECT_EQ(f.Logic().Zoom, 50);
+  EXPECT_EQ(f.Logic().View().Zoom(), 50);
   EXPECT_EQ(f.Panel(2), QStringLiteral("Zoom: 50"));
   EXPECT_TRUE(f.Action("mnuZoom", 0)->isChecked());
   EXPECT_FALSE(f.Action("mnuZoom", 2)->isChecked());
@@ -280,7 +280,7 @@ TEST(FrmMain, ZoomFromTheMenuAndTheToolbarShowsItsTextsAndChecks) {
   // The toolbar's zoom out: 15, while its text says 10.
   f.frame->Bars().MenuEntry(QStringLiteral("Zoomout"))->trigger();
   QApplication::processEvents();
-  EXPECT_EQ(f.Logic().Zoom, 15);
+  EXPECT_EQ(f.Logic().View().Zoom(), 15);
   EXPECT_EQ(f.frame->Bars().MenuEntry(QStringLiteral("Zoomout"))->text(), QStringLiteral("> Zoom&Out (10)"));
   EXPECT_TRUE(f.Action("mnuZoom", 1)->isChecked());
   // Custom zoom asks, and a value out of range is refused with its box.
@@ -290,7 +290,7 @@ TEST(FrmMain, ZoomFromTheMenuAndTheToolbarShowsItsTextsAndChecks) {
   EXPECT_EQ(f.messages.Boxes()[0].text, "Input out of range (5-200)!");
   f.input.Answer("200");
   f.Trigger("mnuZoom", 4);
-  EXPECT_EQ(f.Logic().Zoom, 200);
+  EXPECT_EQ(f.Logic().View().Zoom(), 200);
   EXPECT_EQ(f.frame->Bars().MenuEntry(QStringLiteral("Finezoom"))->text(), QStringLiteral("> &Custom (200)"));
   EXPECT_EQ(f.input.AskedBoxes()[0].title, "Zooming");
   EXPECT_EQ(f.input.AskedBoxes()[0].prompt, "Select zooming factor in range (5-200).");
@@ -330,7 +330,7 @@ TEST(FrmMain, MovesAskAndShowTheirStatusText) {
   EXPECT_EQ(f.Panel(3), QStringLiteral("Moved: R: 2 Up: 1"));
   f.Trigger("mnuMove", 4);  // &Center
   EXPECT_EQ(f.Panel(3), QStringLiteral("Moved:"));
-  EXPECT_EQ(f.Logic().MoveX, 0);
+  EXPECT_EQ(f.Logic().View().MoveX(), 0);
 }
 
 TEST(FrmMain, ExamplesLoadIntoTheActiveWindowAndDraw) {
@@ -351,11 +351,11 @@ TEST(FrmMain, ExamplesLoadIntoTheActiveWindowAndDraw) {
     FrameFixture f;
     f.Start();
     f.Trigger(c.array, c.index);
-    EXPECT_EQ(f.Logic().optFunkcije, c.type) << c.array;
-    EXPECT_EQ(f.Logic().txtY.Text, c.y) << c.array;
+    EXPECT_EQ(f.Logic().Boxes().optFunkcije(), c.type) << c.array;
+    EXPECT_EQ(f.Logic().Boxes().txtY().Text, c.y) << c.array;
     EXPECT_EQ(f.Active().txtY()->currentText().toStdString(), c.y) << c.array;
-    EXPECT_EQ(f.Logic().KolkoFunkc, 1) << c.array;
-    EXPECT_EQ(f.Logic().Zoom, c.zoom) << c.array;
+    EXPECT_EQ(f.Logic().State().KolkoFunkc(), 1) << c.array;
+    EXPECT_EQ(f.Logic().View().Zoom(), c.zoom) << c.array;
     EXPECT_TRUE(f.Action("mnuftype", c.type - 1)->isChecked()) << c.array;
     EXPECT_TRUE(f.messages.Boxes().empty()) << c.array;
   }
@@ -367,12 +367,12 @@ TEST(FrmMain, ClearGridWithAutoRedrawOnRedrawsTheFunctionsWithoutAQuestion) {
   f.TypeAndEnter(QStringLiteral("SinX"));
   f.Trigger("mnuclearall");
   EXPECT_TRUE(f.messages.Boxes().empty());
-  EXPECT_EQ(f.Logic().KolkoFunkc, 1);  // drawn again
+  EXPECT_EQ(f.Logic().State().KolkoFunkc(), 1);  // drawn again
   // The toolbar's ClearG is the same command.
   f.frame->Bars().Button(QStringLiteral("ClearG"))->click();
   QApplication::processEvents();
   EXPECT_TRUE(f.messages.Boxes().empty());
-  EXPECT_EQ(f.Logic().KolkoFunkc, 1);
+  EXPECT_EQ(f.Logic().State().KolkoFunkc(), 1);
 }
 
 TEST(FrmMain, ClearGridWithAutoRedrawOffAsksFirst) {
@@ -386,7 +386,7 @@ TEST(FrmMain, ClearGridWithAutoRedrawOffAsksFirst) {
   EXPECT_EQ(f.messages.Boxes()[0].text, "Your current graph(s) will be erased.\r\nContinue?");
   EXPECT_EQ(f.messages.Boxes()[0].title, "Clear");
   EXPECT_EQ(f.messages.Boxes()[0].buttons, MsgButtons::OkCancel);
-  EXPECT_EQ(f.Logic().KolkoFunkc, 1);
+  EXPECT_EQ(f.Logic().State().KolkoFunkc(), 1);
   f.messages.Answer(MsgResult::Ok);
   f.Trigger("mnuclearall");
   EXPECT_EQ(f.messages.Boxes().size(), 2u);

@@ -76,7 +76,7 @@ void SinThenPolarCos(FrameFixture& f) {
 void ExpectGraph1Untouched(FrameFixture& f, graph_qt::FrmFunc* first, int updates, const char* what) {
   EXPECT_EQ(first->ScreenUpdates(), updates) << what << ": Graph 1 drew";
   EXPECT_EQ(first->windowTitle(), QStringLiteral("Graph 1 - R (K) = CosX")) << what;
-  EXPECT_EQ(first->Logic().optFunkcije, graph::kPolar) << what;
+  EXPECT_EQ(first->Logic().Boxes().optFunkcije(), graph::kPolar) << what;
   EXPECT_TRUE(first->optFunkcije(3)->isChecked()) << what;
   EXPECT_EQ(first->txtY()->currentText(), QStringLiteral("CosX")) << what;
   EXPECT_TRUE(f.messages.Boxes().empty()) << what;

@@ -7,7 +7,7 @@
 #include <vector>
 
 #include "expr/fault.h"
-#include "tools/formulacontrol.h"
+#include "expr/formulacontrol.h"
 
 namespace velmora::testing {
 
@@ -15,7 +15,7 @@ namespace velmora::testing {
 // text: nothing means the engine faults. Every formula sent is recorded, so
 // a test can check the text and the order of the calls ("PopAll()" after
 // each use, the derivative's pushes).
-class ScriptedFormula final : public tools::FormulaControl {
+class ScriptedFormula final : public expr::FormulaControl {
  public:
   using Script = std::function<std::optional<double>(std::string_view formula)>;
   explicit ScriptedFormula(Script script) : script_(std::move(script)) {}

@@ -76,7 +76,7 @@ TEST_F(CommandsTest, LineWidthFromTheInputBox) {
   EXPECT_EQ(input.AskedBoxes()[0].title, "Graph-Line Width");
   EXPECT_EQ(input.AskedBoxes()[0].prompt, "Enter value for Graph-Line Width (e.g. 1, 1.6 ...).");
   EXPECT_EQ(input.AskedBoxes()[0].defaultText, "1");
-  EXPECT_DOUBLE_EQ(Logic().GraphLineWidth, 3);
+  EXPECT_DOUBLE_EQ(Logic().Pen().GraphLineWidth(), 3);
   TypeAndEnter(QStringLiteral("1"));
   // A level line three pixels thick at row 170.
   const QImage picture = Picture();
@@ -100,16 +100,16 @@ TEST_F(CommandsTest, TheTraceIsAnOverlayThatNeverTouchesThePicture) {
   const QImage before = Picture();
   QTest::mousePress(window->pDraw(), Qt::RightButton, {}, QPoint(330, 200));
   EXPECT_EQ(window->LblChart()->text(), QStringLiteral("    x = 1 [1], y (x) = 0.84147"));
-  EXPECT_TRUE(Logic().LineY.Visible);
-  EXPECT_TRUE(Logic().Line1.Visible);
-  EXPECT_TRUE(Logic().Line2.Visible);
+  EXPECT_TRUE(Logic().LineY().Visible);
+  EXPECT_TRUE(Logic().Line1().Visible);
+  EXPECT_TRUE(Logic().Line2().Visible);
   // On screen the cross-hair shows; in the picture it does not.
   const QImage screen = window->pDraw()->grab().toImage();
   EXPECT_EQ(screen.pixel(330, 20) & 0xFFFFFF, graph_qt::PDrawView::CrossHairColour().rgb() & 0xFFFFFF);
   EXPECT_EQ(Picture(), before);
   QTest::mouseRelease(window->pDraw(), Qt::RightButton, {}, QPoint(330, 200));
-  EXPECT_FALSE(Logic().LineY.Visible);
-  EXPECT_FALSE(Logic().Line2.Visible);
+  EXPECT_FALSE(Logic().LineY().Visible);
+  EXPECT_FALSE(Logic().Line2().Visible);
   const QImage after = window->pDraw()->grab().toImage();
   EXPECT_EQ(after.pixel(330, 20) & 0xFFFFFF, before.pixel(330, 20) & 0xFFFFFF);
 }
@@ -171,8 +171,8 @@ TEST_F(CommandsTest, CopyGraphPutsThePictureOnTheClipboard) {
 TEST_F(CommandsTest, SwapYXExchangesTheBoxes) {
   Make();
   Logic().optFunk(2);
-  Logic().txtY.Text = "SinK";
-  Logic().txtX.Text = "CosK";
+  Logic().SettxtY("SinK");
+  Logic().SettxtX("CosK");
   window->SyncFromLogic();
   window->SwapYX();
   EXPECT_EQ(window->txtY()->currentText(), QStringLiteral("CosK"));
@@ -206,8 +206,8 @@ TEST_F(CommandsTest, AResizeKeepsTheOriginInTheMiddleAndRedraws) {
   TypeAndEnter(QStringLiteral("SinX"));
   window->pDraw()->setFixedSize(800, 500);
   QApplication::processEvents();
-  EXPECT_DOUBLE_EQ(Logic().CenterX, 400);
-  EXPECT_DOUBLE_EQ(Logic().CenterY, 250);
+  EXPECT_DOUBLE_EQ(Logic().View().CenterX(), 400);
+  EXPECT_DOUBLE_EQ(Logic().View().CenterY(), 250);
   EXPECT_EQ(Picture().size(), QSize(800, 500));
   window->SettleSize();
   // Painted again at the new size: the curve reaches the new right edge.
@@ -237,7 +237,7 @@ TEST_F(CommandsTest, WithAutoRedrawOffAResizeKeepsTheCurves) {
   window->SettleSize();
   // The level line y = 1 moved with the origin (300, 200) -> (400, 300).
   EXPECT_EQ(Picture().pixel(400, 270) & 0xFFFFFF, Rgb(kGraphColour));
-  EXPECT_EQ(Logic().KolkoFunkc, 1);
+  EXPECT_EQ(Logic().State().KolkoFunkc(), 1);
   EXPECT_TRUE(messages.Boxes().empty());
 }
 
@@ -249,7 +249,7 @@ TEST_F(CommandsTest, AFunctionNameFromC1GoesToTheCaret) {
   window->C1()->setCurrentIndex(sin);
   emit window->C1()->activated(sin);
   EXPECT_EQ(window->txtY()->currentText(), QStringLiteral("2*Sin"));
-  EXPECT_EQ(Logic().txtY.Text, "2*Sin");
+  EXPECT_EQ(Logic().Boxes().txtY().Text, "2*Sin");
   EXPECT_EQ(window->C1()->count(), 40);
 }
 
@@ -286,7 +286,7 @@ TEST_F(CommandsTest, ASubWindowClosedDuringADrawClosesWhenTheDrawStops) {
   ASSERT_TRUE(QTest::qWaitForWindowExposed(&area));
   QPointer<QMdiSubWindow> alive(sub);
   QTimer::singleShot(0, sub, [&] { sub->close(); });
-  child->Logic().txtY.Text = "X/2";
+  child->Logic().SettxtY("X/2");
   child->DrawFunction();
   EXPECT_TRUE(frame.closing.empty()) << "the window waited for the draw";
   ASSERT_FALSE(alive.isNull());

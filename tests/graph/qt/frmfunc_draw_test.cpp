@@ -32,7 +32,7 @@ TEST_F(DrawTest, TypingSinXAndEnterDrawsTheCurve) {
   EXPECT_EQ(window->MS1()->horizontalHeaderItem(0)->text(), QStringLiteral("X"));
   EXPECT_EQ(window->txtY()->count(), 1);
   EXPECT_EQ(window->txtY()->itemText(0), QStringLiteral("SinX"));
-  EXPECT_EQ(Logic().KolkoFunkc, 1);
+  EXPECT_EQ(Logic().State().KolkoFunkc(), 1);
   EXPECT_EQ(QApplication::focusWidget(), window->txtY());
   EXPECT_EQ(EditY()->cursorPosition(), 4) << "caret at the end";
   EXPECT_FALSE(window->lblPerCent()->isVisible());
@@ -46,14 +46,14 @@ TEST_F(DrawTest, ASecondEnterDuringADrawChangesNothing) {
   Make();
   bool ranDuringDraw = false;
   QTimer::singleShot(0, window.get(), [&] {
-    ranDuringDraw = Logic().Drawing;
+    ranDuringDraw = Logic().State().Drawing();
     EXPECT_TRUE(EditY()->isReadOnly());
     QTest::keyClicks(window->txtY(), QStringLiteral("+1"));  // refused: read-only
     QTest::keyClick(window->txtY(), Qt::Key_Return);
   });
   TypeAndEnter(QStringLiteral("CosX"));
   EXPECT_TRUE(ranDuringDraw);
-  EXPECT_EQ(Logic().KolkoFunkc, 1);
+  EXPECT_EQ(Logic().State().KolkoFunkc(), 1);
   EXPECT_EQ(window->txtY()->count(), 1);
   EXPECT_EQ(window->txtY()->currentText(), QStringLiteral("CosX"));
   EXPECT_EQ(window->rtb()->toPlainText().count(QStringLiteral("Y(X) =")), 1);
@@ -66,7 +66,7 @@ TEST_F(DrawTest, EscInTxtYStopsTheDraw) {
   TypeAndEnter(QStringLiteral("X/2"));
   // Stopped at the first samples: the curve ends near the left edge.
   EXPECT_LT(LastColumnOf(Picture(), kGraphColour), 100);
-  EXPECT_FALSE(Logic().Drawing);
+  EXPECT_FALSE(Logic().State().Drawing());
   // A stopped draw still leaves its record.
   EXPECT_NE(window->rtb()->toPlainText().indexOf(QStringLiteral("Y(X) = x/2")), -1);
 }
@@ -99,7 +99,7 @@ TEST_F(DrawTest, BadSyntaxShowsTheMessageAndDrawsNothing) {
   ASSERT_EQ(messages.Boxes().size(), 1u);
   EXPECT_EQ(messages.Boxes()[0].text, "Check bracket placement!");
   EXPECT_EQ(Picture(), before);
-  EXPECT_EQ(Logic().KolkoFunkc, 0);
+  EXPECT_EQ(Logic().State().KolkoFunkc(), 0);
 }
 
 TEST_F(DrawTest, EnterInTxtXDrawsAParametricCurve) {
@@ -123,8 +123,8 @@ TEST_F(DrawTest, EnterTakesTheTextAsItStandsInTheBox) {
   // Set by a program, not typed: no edit signal reached the logic.
   EditY()->setText(QStringLiteral("X/3"));
   QTest::keyClick(window->txtY(), Qt::Key_Enter);  // the keypad's Enter
-  EXPECT_EQ(Logic().txtY.Text, "X/3");
-  EXPECT_EQ(Logic().KolkoFunkc, 1);
+  EXPECT_EQ(Logic().Boxes().txtY().Text, "X/3");
+  EXPECT_EQ(Logic().State().KolkoFunkc(), 1);
   EXPECT_GT(CountPixels(Picture(), kGraphColour), 500);
 }
 
@@ -132,7 +132,7 @@ TEST_F(DrawTest, TheWidgetsFollowADrawStartedThroughTheLogic) {
   Make();
   // As the frame runs an example: the logic's boxes, then its draw.
   Logic().optFunk(3);
-  Logic().txtY.Text = "2";
+  Logic().SettxtY("2");
   Logic().CrtajPolar();
   EXPECT_EQ(window->txtY()->currentText(), QStringLiteral("2"));
   EXPECT_EQ(window->labY()->text(), QStringLiteral("R (K) ="));
@@ -169,7 +169,7 @@ TEST_F(DrawTest, TheScreenIsRepaintedAtScreenRateNotPerSample) {
     step = r.step;
     reads = 0;
     const int before = window->ScreenUpdates();
-    Logic().txtY.Text = r.function;
+    Logic().SettxtY(r.function);
     Logic().CrtajFJU();
     const int updates = window->ScreenUpdates() - before;
     ASSERT_GT(reads, 100) << r.why;  // one read per sample of 600 columns

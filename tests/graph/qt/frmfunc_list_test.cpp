@@ -20,11 +20,11 @@ class ListTest : public FrmFuncTest {
     Make();
     TypeAndEnter(QStringLiteral("SinX"));
     window->optFunkcije(3)->click();
-    ASSERT_EQ(Logic().optFunkcije, graph::kPolar);
+    ASSERT_EQ(Logic().Boxes().optFunkcije(), graph::kPolar);
     TypeAndEnter(QStringLiteral("CosX"));
     ASSERT_EQ(window->txtY()->count(), 2);
     ASSERT_EQ(window->txtY()->currentText(), QStringLiteral("CosX"));
-    ASSERT_EQ(Logic().KolkoFunkc, 2);
+    ASSERT_EQ(Logic().State().KolkoFunkc(), 2);
     ASSERT_TRUE(messages.Boxes().empty());
     drawnPicture = Picture();
     updatesBefore = window->ScreenUpdates();
@@ -33,12 +33,12 @@ class ListTest : public FrmFuncTest {
   // Nothing was drawn since DrawSinThenPolarCos, and the window is as it left it.
   void ExpectNothingDrawn(const char* what) {
     EXPECT_EQ(window->ScreenUpdates(), updatesBefore) << what << ": a draw ran";
-    EXPECT_EQ(Logic().optFunkcije, graph::kPolar) << what;
+    EXPECT_EQ(Logic().Boxes().optFunkcije(), graph::kPolar) << what;
     EXPECT_TRUE(window->optFunkcije(3)->isChecked()) << what;
     EXPECT_EQ(window->labY()->text(), QStringLiteral("R (K) =")) << what;
     EXPECT_EQ(window->txtY()->currentText(), QStringLiteral("CosX")) << what;
-    EXPECT_EQ(Logic().txtY.Text, "CosX") << what;
-    EXPECT_EQ(Logic().KolkoFunkc, 2) << what;
+    EXPECT_EQ(Logic().Boxes().txtY().Text, "CosX") << what;
+    EXPECT_EQ(Logic().State().KolkoFunkc(), 2) << what;
     EXPECT_TRUE(Picture() == drawnPicture) << what << ": the picture changed";
     EXPECT_TRUE(messages.Boxes().empty()) << what;
   }
@@ -67,9 +67,9 @@ TEST_F(ListTest, EnterOnAnEntryOfTheOpenListReplaysItInItsType) {
   QTest::keyClick(list, Qt::Key_Return);
   EXPECT_FALSE(list->isVisible());
   EXPECT_EQ(window->txtY()->currentText(), QStringLiteral("SinX"));
-  EXPECT_EQ(Logic().optFunkcije, graph::kCartesian) << "a text without K is Cartesian";
+  EXPECT_EQ(Logic().Boxes().optFunkcije(), graph::kCartesian) << "a text without K is Cartesian";
   EXPECT_GT(CountPixels(Picture(), kGraphColour), 500) << "replayed";
-  EXPECT_EQ(Logic().KolkoFunkc, 2) << "a replay adds nothing to the list";
+  EXPECT_EQ(Logic().State().KolkoFunkc(), 2) << "a replay adds nothing to the list";
 }
 
 TEST_F(ListTest, AClickOnAnEntryOfTheOpenListReplaysIt) {
@@ -84,7 +84,7 @@ TEST_F(ListTest, AClickOnAnEntryOfTheOpenListReplaysIt) {
   QTest::mouseClick(list->viewport(), Qt::LeftButton, {}, item.center());
   EXPECT_FALSE(list->isVisible());
   EXPECT_EQ(window->txtY()->currentText(), QStringLiteral("SinX"));
-  EXPECT_EQ(Logic().optFunkcije, graph::kCartesian);
+  EXPECT_EQ(Logic().Boxes().optFunkcije(), graph::kCartesian);
   EXPECT_GT(CountPixels(Picture(), kGraphColour), 500);
 }
 
@@ -144,10 +144,10 @@ TEST_F(ListTest, ArrowKeysStepThroughTheListWithoutDrawing) {
   QTest::keyClick(window->txtY(), Qt::Key_Up);
   QApplication::processEvents();
   EXPECT_EQ(window->ScreenUpdates(), updatesBefore);
-  EXPECT_EQ(Logic().optFunkcije, graph::kPolar);
+  EXPECT_EQ(Logic().Boxes().optFunkcije(), graph::kPolar);
   // The box shows the entry, and Enter draws what it shows.
   EXPECT_EQ(window->txtY()->currentText(), QStringLiteral("SinX"));
-  EXPECT_EQ(Logic().txtY.Text, "SinX");
+  EXPECT_EQ(Logic().Boxes().txtY().Text, "SinX");
 }
 
 }  // namespace

@@ -1,8 +1,8 @@
-#include "tools/valuetable.h"
+#include "graph/valuetable.h"
 
 #include "expr/fault.h"
 
-namespace velmora::tools {
+namespace velmora::graph {
 
 void ValueTable::SetRows(int rows) {
   if (rows < 0) throw expr::Fault(expr::Fault::kInvalidCall);
@@ -45,4 +45,4 @@ std::vector<std::string> ValueTable::TabLines() const {
   return lines;
 }
 
-}  // namespace velmora::tools
+}  // namespace velmora::graph

@@ -1,4 +1,4 @@
-#include "tools/tablerows.h"
+#include "graph/tablerows.h"
 
 #include <gtest/gtest.h>
 
@@ -10,7 +10,7 @@
 #include "tests/support/recordingmessagebox.h"
 #include "tests/support/scriptedformula.h"
 
-namespace velmora::tools {
+namespace velmora::graph {
 namespace {
 
 using testing::BracketedNumber;
@@ -273,4 +273,4 @@ TEST(PolarTable, AFailedTrialLeavesTheEmptyPolarGrid) {
 }
 
 }  // namespace
-}  // namespace velmora::tools
+}  // namespace velmora::graph

@@ -1,11 +1,11 @@
-#include "tools/valuetable.h"
+#include "graph/valuetable.h"
 
 #include <gtest/gtest.h>
 
 #include "expr/fault.h"
-#include "tools/tablerows.h"
+#include "graph/tablerows.h"
 
-namespace velmora::tools {
+namespace velmora::graph {
 namespace {
 
 TEST(ValueTable, SizeKeepsCellsThatFit) {
@@ -37,4 +37,4 @@ TEST(ValueTable, TabLinesAndClear) {
 }
 
 }  // namespace
-}  // namespace velmora::tools
+}  // namespace velmora::graph

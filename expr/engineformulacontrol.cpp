@@ -1,8 +1,8 @@
 #include "expr/fault.h"
+#include "expr/formulacontrol.h"
 #include "expr/formulaengine.h"
-#include "tools/formulacontrol.h"
 
-namespace velmora::tools {
+namespace velmora::expr {
 namespace {
 
 class EngineFormulaControl final : public FormulaControl {
@@ -21,4 +21,4 @@ class EngineFormulaControl final : public FormulaControl {
 
 std::unique_ptr<FormulaControl> MakeFormulaControl() { return std::make_unique<EngineFormulaControl>(); }
 
-}  // namespace velmora::tools
+}  // namespace velmora::expr

@@ -3,11 +3,11 @@
 #include <string>
 #include <string_view>
 
+#include "expr/formulacontrol.h"
+#include "graph/valuetable.h"
 #include "platform/messagebox.h"
-#include "tools/formulacontrol.h"
-#include "tools/valuetable.h"
 
-namespace velmora::tools {
+namespace velmora::graph {
 
 // The three layouts of a value table.
 enum class TableLayout { Cartesian, Parametric, Polar };
@@ -39,7 +39,7 @@ class TableRows {
   // 0.5235987756: pi / 6 as the polar table stores it, with ten decimals.
   static constexpr double kPolarAngleStep = 0.5235987756;
 
-  TableRows(FormulaControl& evaluator, platform::MessageBox& messages)
+  TableRows(expr::FormulaControl& evaluator, platform::MessageBox& messages)
       : evaluator_(evaluator), messages_(messages) {}
 
   // X from xmin to xmax by step (repeated addition), rows X, Y and the
@@ -64,8 +64,8 @@ class TableRows {
   double Value(const std::string& formula);
   double Derivative(const std::string& at, const std::string& function);
 
-  FormulaControl& evaluator_;
+  expr::FormulaControl& evaluator_;
   platform::MessageBox& messages_;
 };
 
-}  // namespace velmora::tools
+}  // namespace velmora::graph

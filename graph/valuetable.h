@@ -4,7 +4,7 @@
 #include <string_view>
 #include <vector>
 
-namespace velmora::tools {
+namespace velmora::graph {
 
 // A grid of text cells in the manner of a flexible grid control: Rows and
 // Cols set its size (cells that still fit keep their text), row 0 is the
@@ -35,4 +35,4 @@ class ValueTable {
   int cols_ = 0;
 };
 
-}  // namespace velmora::tools
+}  // namespace velmora::graph

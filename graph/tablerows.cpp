@@ -1,14 +1,14 @@
-#include "tools/tablerows.h"
+#include "graph/tablerows.h"
 
 #include <cmath>
 #include <string>
 
+#include "base/asciicase.h"
 #include "expr/fault.h"
 #include "expr/numtext.h"
 #include "expr/replacetext.h"
-#include "base/asciicase.h"
 
-namespace velmora::tools {
+namespace velmora::graph {
 namespace {
 
 constexpr std::string_view kRefuseKText =
@@ -195,4 +195,4 @@ bool TableRows::PolarTable(ValueTable& table, std::string_view rFunction, int de
   }
 }
 
-}  // namespace velmora::tools
+}  // namespace velmora::graph

@@ -3,7 +3,7 @@
 #include <memory>
 #include <string_view>
 
-namespace velmora::tools {
+namespace velmora::expr {
 
 // The formula engine as a window drives it (`Evaluator1`, `Evaluator2`):
 // assign a formula, read the result, send "PopAll()". Reading Result faults
@@ -21,4 +21,4 @@ class FormulaControl {
 // A control over the program's formula engine (expr::FormulaEngine).
 std::unique_ptr<FormulaControl> MakeFormulaControl();
 
-}  // namespace velmora::tools
+}  // namespace velmora::expr
