@@ -78,7 +78,7 @@ constexpr std::array<std::string_view, 2> kFailedLinesAfter = {
 
 }  // namespace
 
-Evaluator::Evaluator(platform::MessageBox* messages, ActiveWindow* window)
+Evaluator::Evaluator(base::MessageBox* messages, ActiveWindow* window)
     : messages_(messages), window_(window) {}
 
 // ---------------------------------------------------------------------------
@@ -107,7 +107,7 @@ double Evaluator::Evaluate(std::string_view text, bool silent) {
     const std::string_view message = ErrorMessage(error_);
     if (!message.empty()) {
       if (messages_ != nullptr) {
-        messages_->Show(std::string(message), std::string(kErrorTitle), platform::MsgIcon::Critical);
+        messages_->Show(std::string(message), std::string(kErrorTitle), base::MsgIcon::Critical);
       }
     } else {
       // A run-time fault in the trial is an undefined point, not a wrong text.
@@ -125,13 +125,13 @@ double Evaluator::Evaluate3(std::string_view text, bool silent) {
     const std::string_view message = ErrorMessage(error_);
     const std::string shown = message.empty() ? EvaluationFailedMessage() : std::string(message);
     if (messages_ != nullptr) {
-      messages_->Show(shown, std::string(kErrorTitle), platform::MsgIcon::Critical);
+      messages_->Show(shown, std::string(kErrorTitle), base::MsgIcon::Critical);
     }
     Module().failed = true;
   } else if (result_ == kSentinel) {
     if (messages_ != nullptr) {
       messages_->Show(std::string(kUndefinedMessage), std::string(kUndefinedTitle),
-                      platform::MsgIcon::Information);
+                      base::MsgIcon::Information);
     }
   }
   return result_;

@@ -7,8 +7,8 @@
 #include <string_view>
 #include <vector>
 
+#include "base/messagebox.h"
 #include "expr/graphfields.h"
-#include "platform/messagebox.h"
 
 namespace velmora::expr {
 
@@ -55,7 +55,7 @@ class Evaluator {
   // active child for rational powers and the pen routines. Either may be
   // null: with no window, a field read faults (error 16); with no message
   // box, nothing is shown.
-  explicit Evaluator(platform::MessageBox* messages = nullptr, ActiveWindow* window = nullptr);
+  explicit Evaluator(base::MessageBox* messages = nullptr, ActiveWindow* window = nullptr);
 
   // Strips spaces, upper-cases (ASCII letters only), and turns every "."
   // into ",".
@@ -133,7 +133,7 @@ class Evaluator {
   std::optional<std::size_t> ClosingBracket(std::string_view text, std::size_t open) const;
   void MapBrackets();
 
-  platform::MessageBox* messages_;
+  base::MessageBox* messages_;
   ActiveWindow* window_;
   bool assigned_ = false;
   std::string expression_;
