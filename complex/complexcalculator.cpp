@@ -1,6 +1,7 @@
 #include "complex/complexcalculator.h"
 
 #include <cmath>
+#include <optional>
 #include <string>
 #include <utility>
 
@@ -18,13 +19,12 @@ constexpr std::string_view kMinusJ = "-j";
 constexpr std::string_view kLogLineBreak = "\r\n";
 constexpr std::string_view kLogEquals = "= ";
 
-// Val of a part field. A field too large for a number reads 0: the reading
-// fails and the part keeps the value it started with.
-double Val(const std::string& text) {
+// Val of a part field; nothing when the text is too large for a number.
+std::optional<double> Val(const std::string& text) {
   try {
     return expr::TextToNumber(text);
   } catch (const expr::Fault&) {
-    return 0.0;
+    return std::nullopt;
   }
 }
 
@@ -51,8 +51,18 @@ void ComplexCalculator::ParseOperands(Operands operands) {
   }
 }
 
-ComplexCalculator::Parts ComplexCalculator::ReadParts() const {
-  return {Val(fields_.lbla), Val(fields_.lblb), Val(fields_.lblc), Val(fields_.lbld)};
+std::optional<ComplexCalculator::Parts> ComplexCalculator::ReadParts(Operands operands) const {
+  const std::optional<double> a = Val(fields_.lbla);
+  const std::optional<double> b = Val(fields_.lblb);
+  // A one-operand button never reads Complex 2, whatever its fields hold.
+  const bool two = operands == Operands::Two;
+  const std::optional<double> c = two ? Val(fields_.lblc) : 0.0;
+  const std::optional<double> d = two ? Val(fields_.lbld) : 0.0;
+  if (!a || !b || !c || !d) {
+    Show(box_, kOperandTooLarge);
+    return std::nullopt;
+  }
+  return Parts{*a, *b, two ? *c : 0.0, two ? *d : 0.0};
 }
 
 void ComplexCalculator::Compute(Operation operation, const Parts& p) {
@@ -123,7 +133,9 @@ bool ComplexCalculator::Run(Operation operation) {
   if (operation == Operation::LogBase) return RunLogBase();
   const OperationEntry& entry = FindOperation(operation);
   ParseOperands(entry.operands);
-  const Parts p = ReadParts();
+  const std::optional<Parts> parts = ReadParts(entry.operands);
+  if (!parts) return false;
+  const Parts& p = *parts;
   const bool refused = (entry.zeroTest == ZeroTest::First && IsZero(p.a, p.b)) ||
                        (entry.zeroTest == ZeroTest::Second && IsZero(p.c, p.d));
   if (refused) {
@@ -143,7 +155,9 @@ bool ComplexCalculator::Run(Operation operation) {
 
 bool ComplexCalculator::RunLogBase() {
   ParseOperands(Operands::Two);
-  const Parts p = ReadParts();
+  const std::optional<Parts> parts = ReadParts(Operands::Two);
+  if (!parts) return false;
+  const Parts& p = *parts;
   const Message* refusal = nullptr;
   if (IsZero(p.a, p.b)) {
     refusal = &kButtonLogBaseOfZero;
@@ -174,7 +188,9 @@ bool ComplexCalculator::CalculateSelected() {
   ParseOperands(Operands::Two);
   const FunctionEntry* entry = FindFunctionEntry(fields_.ComboFunction);
   if (entry == nullptr) return false;
-  const Parts p = ReadParts();
+  const std::optional<Parts> parts = ReadParts(Operands::Two);
+  if (!parts) return false;
+  const Parts& p = *parts;
   const Message* refusal = nullptr;
   switch (entry->operation) {
     case Operation::Divide:
@@ -244,9 +260,12 @@ void ComplexCalculator::Swap() {
 namespace {
 
 // The conjugate written back into an operand label: the imaginary field
-// takes -b, and the label reads real-j|b| or real+jb by its sign.
+// takes -b, and the label reads real-j|b| or real+jb by its sign. A part
+// too large to read leaves the operand as it stands.
 void WriteConjugate(std::string& label, const std::string& real, std::string& imaginary) {
-  const double negated = -Val(imaginary);
+  const std::optional<double> part = Val(imaginary);
+  if (!part) return;
+  const double negated = -*part;
   imaginary = expr::NumberToText(negated);
   if (negated < 0.0) {
     label = real + std::string(kMinusJ) + expr::NumberToText(std::fabs(negated));

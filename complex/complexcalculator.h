@@ -1,5 +1,6 @@
 #pragma once
 
+#include <optional>
 #include <string_view>
 
 #include "complex/complexfields.h"
@@ -56,7 +57,9 @@ class ComplexCalculator {
   bool RunLogBase();
   bool CalculateSelected();
   void ParseOperands(Operands operands);
-  Parts ReadParts() const;
+  // The part fields of the operands as numbers; a part too large to read
+  // shows its box and gives nothing, and the operation ends unchanged.
+  std::optional<Parts> ReadParts(Operands operands) const;
   void Compute(Operation operation, const Parts& p);
   void ShowResultFields();
   void ShowResult(bool realResult);

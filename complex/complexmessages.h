@@ -32,6 +32,11 @@ inline constexpr Message kNoImaginaryUnit{
     "Check input. The Complex number must contain either j or i for imaginary.", kDefaultTitle,
     MsgIcon::None};
 inline constexpr Message kCheckBrackets{"Check brackets.", kDefaultTitle, MsgIcon::None};
+// A part too long to hold as a number (hundreds of digits): the operation is
+// refused rather than run on a part read as 0. The text is the one the
+// matrix side gives a cell that cannot be held.
+inline constexpr Message kOperandTooLarge{"You must enter a valid complex number.", kDefaultTitle,
+                                          MsgIcon::Exclamation};
 
 // The direct buttons.
 inline constexpr Message kButtonDivisionByZero{"#IND", "Error.", MsgIcon::None};

@@ -2,6 +2,7 @@
 
 #include <gtest/gtest.h>
 
+#include <functional>
 #include <string>
 #include <vector>
 
@@ -252,6 +253,63 @@ TEST_F(CalculatorTest, UnguardedFailureShowsTheSameBoxAndGoesOn) {
   EXPECT_TRUE(calc.Run(Operation::Add));
   ExpectBoxes(box, {kInvalid});
   ExpectResult("4", "6", "4+j6");
+}
+
+// A part of hundreds of digits cannot be held as a number: every road
+// refuses it with the entry's message instead of reading it as 0.
+TEST_F(CalculatorTest, PartTooLargeToHoldIsRefusedOnEveryRoad) {
+  const Box tooLarge{"You must enter a valid complex number.", "Velmora", MsgIcon::Exclamation};
+  const std::string huge(400, '9');
+  struct Road {
+    const char* why;
+    std::string z1;
+    std::string z2;
+    std::function<bool(ComplexCalculator&)> run;
+  };
+  const Road roads[] = {
+      {"real part of Complex 1 on a button", huge + "+j1", "1+j1",
+       [](ComplexCalculator& c) { return c.Run(Operation::Add); }},
+      {"imaginary part of Complex 2 on a button", "1+j1", "1+j" + huge,
+       [](ComplexCalculator& c) { return c.Run(Operation::Multiply); }},
+      {"one-operand button", huge + "+j0", "1+j1",
+       [](ComplexCalculator& c) { return c.Run(Operation::Abs); }},
+      {"the logarithm to a base", "2+j0", huge + "+j0",
+       [](ComplexCalculator& c) { return c.Run(Operation::LogBase); }},
+      {"the list road", huge + "+j1", "1+j1", [](ComplexCalculator& c) { return c.CommandCalculateClick(); }},
+  };
+  for (const Road& road : roads) {
+    EarlierResult();
+    f.frm2textOpen = true;
+    Operands(road.z1.c_str(), road.z2.c_str());
+    EXPECT_FALSE(road.run(calc)) << road.why;
+    ExpectBoxes(box, {tooLarge});
+    ExpectResult("4", "6", "4+j6");
+    EXPECT_EQ(f.frm2text, "") << road.why;  // no log block for a refused operation
+  }
+}
+
+// 201 digits still hold as a double: the operation runs and shows its value.
+TEST_F(CalculatorTest, LongPartThatHoldsIsComputed) {
+  Operands((std::string(201, '9') + "+j1").c_str(), "1+j1");
+  EXPECT_TRUE(calc.Run(Operation::Add));
+  EXPECT_EQ(f.TextResultReal, "1E+201");
+  EXPECT_TRUE(box.Boxes().empty());
+}
+
+// A one-operand button never reads Complex 2, so a huge part there is no
+// reason to refuse.
+TEST_F(CalculatorTest, OneOperandButtonIgnoresAHugeComplexTwo) {
+  Operands("3+j4", ("1+j" + std::string(400, '9')).c_str());
+  EXPECT_TRUE(calc.Run(Operation::Abs));
+  EXPECT_EQ(f.TextResultReal, "5");
+}
+
+// Conjugating a part too large to read leaves the operand as it stands.
+TEST_F(CalculatorTest, ConjugateLeavesAPartTooLargeAlone) {
+  const std::string label = "1+j" + std::string(400, '9');
+  f.lblZ1 = label;
+  calc.ConjugateZ1();
+  EXPECT_EQ(f.lblZ1, label);
 }
 
 TEST_F(CalculatorTest, ArgumentOnImaginaryAxisFailsInLibrary) {
