@@ -55,6 +55,11 @@ INSTANTIATE_TEST_SUITE_P(
         CliCase{"DivideByZero", {"z1/z2", "3+j4", "0+j0"}, "message: #IND\n", 0},
         CliCase{"LnOfZero", {"Ln", "0+i0"}, "message: Log of 0 + i0 is undefined.\n", 0},
         CliCase{"LogBaseOne", {"LogBase", "3+j4", "1+j0"}, "message: Base 1 + i0 . Undefined.\n", 0},
+        // A part of 400 digits cannot be held: refused, never read as 0.
+        CliCase{"PartTooLarge",
+                {"z1+z2", std::string(400, '9') + "+j1", "1+j1"},
+                "message: You must enter a valid complex number.\n",
+                0},
         // A failure inside the arithmetic: the box, then the stale result.
         CliCase{
             "ExpOverflow", {"e^", "1000+j0"}, "message: Invalid input.\n0\t0\n(e^(1000+j0))\n= 0+j0\n", 0},
