@@ -15,6 +15,8 @@
 #include <string>
 #include <vector>
 
+#include "tests/support/filebytes.h"
+
 namespace velmora::base {
 namespace {
 
@@ -35,15 +37,9 @@ class AtomicFileTest : public ::testing::Test {
     fs::remove_all(folder_);
   }
 
-  static std::string ReadBytes(const fs::path& path) {
-    std::ifstream in(path, std::ios::binary);
-    std::ostringstream s;
-    s << in.rdbuf();
-    return s.str();
-  }
+  static std::string ReadBytes(const fs::path& path) { return velmora::testing::ReadFileBytes(path); }
   static void WriteBytes(const fs::path& path, const std::string& bytes) {
-    std::ofstream out(path, std::ios::binary);
-    out << bytes;
+    velmora::testing::WriteFileBytes(path, bytes);
   }
   // The names in the folder: a leftover temporary file shows here.
   std::vector<std::string> Names() const {

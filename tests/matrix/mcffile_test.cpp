@@ -8,6 +8,7 @@
 #include <string>
 
 #include "tests/matrix/matrixbuild.h"
+#include "tests/support/filebytes.h"
 
 namespace velmora::matrix {
 namespace {
@@ -29,15 +30,9 @@ class McfFileTest : public ::testing::Test {
   }
   void TearDown() override { fs::remove_all(folder_); }
 
-  static std::string ReadBytes(const fs::path& path) {
-    std::ifstream in(path, std::ios::binary);
-    std::ostringstream s;
-    s << in.rdbuf();
-    return s.str();
-  }
+  static std::string ReadBytes(const fs::path& path) { return velmora::testing::ReadFileBytes(path); }
   static void WriteBytes(const fs::path& path, const std::string& bytes) {
-    std::ofstream out(path, std::ios::binary);
-    out << bytes;
+    velmora::testing::WriteFileBytes(path, bytes);
   }
 
   fs::path folder_;

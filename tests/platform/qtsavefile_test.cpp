@@ -6,6 +6,8 @@
 #include <QFile>
 #include <QTemporaryDir>
 
+#include "tests/support/filebytes.h"
+
 namespace velmora::qtplatform {
 namespace {
 
@@ -13,9 +15,7 @@ class QtSaveFileTest : public ::testing::Test {
  protected:
   QString File(const char* name) const { return dir_.filePath(QString::fromUtf8(name)); }
   static QByteArray Bytes(const QString& path) {
-    QFile file(path);
-    if (!file.open(QIODevice::ReadOnly)) return {};
-    return file.readAll();
+    return QByteArray::fromStdString(velmora::testing::ReadFileBytes(path.toStdString()));
   }
   QStringList Names() const {
     return QDir(dir_.path()).entryList(QDir::AllEntries | QDir::Hidden | QDir::NoDotAndDotDot);

@@ -15,6 +15,7 @@
 
 #include "platform/qt/qtstring.h"
 #include "platform/settingskeys.h"
+#include "tests/support/filebytes.h"
 
 namespace velmora::qtplatform {
 namespace {
@@ -23,9 +24,7 @@ class QtSettingsStoreTest : public ::testing::Test {
  protected:
   QString File(const char* name) const { return dir_.filePath(QString::fromUtf8(name)); }
   static QByteArray Bytes(const QString& path) {
-    QFile file(path);
-    if (!file.open(QIODevice::ReadOnly)) return {};
-    return file.readAll();
+    return QByteArray::fromStdString(velmora::testing::ReadFileBytes(path.toStdString()));
   }
   static void Write(const QString& path, const QByteArray& bytes) {
     QFile file(path);
