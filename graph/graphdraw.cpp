@@ -58,8 +58,8 @@ void GraphWindow::ChooseColour() {
     const int blue = static_cast<int>(std::floor(expr::NextRandom(1) * 255));
     pen_.SetGraph_Clr(Rgb(red, green, blue));
   } else {
-    pen_.ChooseGraphColour(
-        static_cast<Colour>(platform::ReadSettingNumber(*services_.settings, "Boje", "Grafik")));
+    pen_.ChooseGraphColour(static_cast<Colour>(
+        ReadSettingNumber(*services_.settings, platform::keys::kBoje, platform::keys::boje::kGrafik)));
   }
 }
 
@@ -114,7 +114,7 @@ void GraphWindow::Draw(const PlotProcedure& procedure) {
     if (procedure.remember) AddRecent(polar);
     if (services_.host != nullptr) services_.host->FocusFunctionBox();
     if (procedure.remember) Remember(polar);
-    lblPointtab_.ForeColor = Grid("Rnd") == 1 ? pen_.Graph_Clr() : 0;
+    lblPointtab_.ForeColor = Grid(platform::keys::grid::kRnd) == 1 ? pen_.Graph_Clr() : 0;
   }
   Progress(lblPerCent_.Caption, false);
   draw_.SetPlotted();
@@ -150,7 +150,7 @@ void GraphWindow::Remember(bool polar) {
 
 void GraphWindow::RedrawFunc() {
   if (draw_.Drawing()) return;
-  if (Grid("Autored") != 1) {
+  if (Grid(platform::keys::grid::kAutored) != 1) {
     draw_.SetKolkoFunkc(0);
     return;
   }
@@ -169,7 +169,7 @@ void GraphWindow::txtY_Click() {
   optFunk(boxes_.TypeOfPick());
   if (services_.host != nullptr) services_.host->RefreshFrame();
   lblPointtab_.ForeColor = 0;
-  if (Grid("Autored") == 1) {
+  if (Grid(platform::keys::grid::kAutored) == 1) {
     if (boxes_.optFunkcije() == kPolar) {
       CrtajPolarAuto();
     } else {

@@ -67,10 +67,10 @@ bool WindowCommands::mnuBojeGraph() {
 
 void WindowCommands::mnuBojeDef() {
   if (w_.State().Drawing()) return;
-  w_.pDraw().SetBackColor(DefaultColour("Pozadina"));
-  w_.ChooseGraphColour(DefaultColour("Grafik"));
-  w_.SetGridColor(DefaultColour("Grid"));
-  w_.SetAxesColor(DefaultColour("Ose"));
+  w_.pDraw().SetBackColor(DefaultColour(platform::keys::boje::kPozadina));
+  w_.ChooseGraphColour(DefaultColour(platform::keys::boje::kGrafik));
+  w_.SetGridColor(DefaultColour(platform::keys::boje::kGrid));
+  w_.SetAxesColor(DefaultColour(platform::keys::boje::kOse));
   RepaintPaper();
 }
 
@@ -78,10 +78,10 @@ void WindowCommands::Sacboje() {
   const auto store = [&](std::string_view key, Colour colour) {
     platform::SetRegValue(settings_, kColours, key, std::to_string(colour & 0xFFFFFF));
   };
-  store("Pozadina", w_.pDraw().BackColor());
-  store("Grafik", w_.Pen().lblBoja());
-  store("Grid", w_.Pen().GridColor());
-  store("Ose", w_.Pen().AxesColor());
+  store(platform::keys::boje::kPozadina, w_.pDraw().BackColor());
+  store(platform::keys::boje::kGrafik, w_.Pen().lblBoja());
+  store(platform::keys::boje::kGrid, w_.Pen().GridColor());
+  store(platform::keys::boje::kOse, w_.Pen().AxesColor());
 }
 
 void WindowCommands::ColourMenu(ColourEntry entry) {
@@ -132,7 +132,8 @@ void WindowCommands::mnuclhistory() {
 }
 
 bool WindowCommands::AskBeforeErasing() {
-  if (w_.State().KolkoFunkc() > 0 && platform::ReadSettingNumber(settings_, "Grid", "Autored") == 0) {
+  if (w_.State().KolkoFunkc() > 0 &&
+      ReadSettingNumber(settings_, platform::keys::kGrid, platform::keys::grid::kAutored) == 0) {
     const auto answer = messages_.Show(std::string(kClearGridQuestion), std::string(kClearGridTitle),
                                        platform::MsgIcon::None, platform::MsgButtons::OkCancel);
     if (answer != platform::MsgResult::Ok) return false;

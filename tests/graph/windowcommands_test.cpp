@@ -9,10 +9,13 @@
 #include <string>
 
 #include "graph/graphwindow.h"
+#include "platform/settingskeys.h"
 #include "tests/graph/dialogfakes.h"
 #include "tests/graph/windowfixture.h"
 
 namespace velmora::graph {
+
+namespace keys = platform::keys;
 namespace {
 
 using platform::MsgButtons;
@@ -69,7 +72,7 @@ TEST_P(ColourTest, TheChosenColourIsUsedAndSaved) {
   commands->ColourMenu(c.entry);
   ASSERT_EQ(colours.opened.size(), 1u);
   EXPECT_EQ(colours.opened[0], c.before);
-  EXPECT_EQ(f.settings.Query("Boje", c.key), std::optional<std::string>("65280"));
+  EXPECT_EQ(f.settings.Query(keys::kBoje, c.key), std::optional<std::string>("65280"));
   EXPECT_FALSE(W().State().Zezaj());
 }
 
@@ -113,7 +116,7 @@ TEST_F(CommandsTest, ACancelledColourChangesNothing) {
   commands->ColourMenu(WindowCommands::ColourEntry::Background);
   EXPECT_EQ(W().pDraw().BackColor(), 0xF5F5F5u);
   EXPECT_TRUE(f.surface.Ops().empty());
-  EXPECT_FALSE(f.settings.Query("Boje", "Pozadina").has_value());
+  EXPECT_FALSE(f.settings.Query(keys::kBoje, keys::boje::kPozadina).has_value());
 }
 
 TEST_F(CommandsTest, DefaultColoursComeBack) {
@@ -126,10 +129,10 @@ TEST_F(CommandsTest, DefaultColoursComeBack) {
   EXPECT_EQ(W().Pen().AxesColor(), 0u);
   EXPECT_EQ(W().Pen().Graph_Clr(), 0xC08000u);
   EXPECT_EQ(W().pDraw().BackColor(), 0xF5F5F5u);
-  EXPECT_EQ(f.settings.Query("Boje", "Grafik"), std::optional<std::string>("12615680"));
-  EXPECT_EQ(f.settings.Query("Boje", "Pozadina"), std::optional<std::string>("16119285"));
-  EXPECT_EQ(f.settings.Query("Boje", "Grid"), std::optional<std::string>("12566463"));
-  EXPECT_EQ(f.settings.Query("Boje", "Ose"), std::optional<std::string>("0"));
+  EXPECT_EQ(f.settings.Query(keys::kBoje, keys::boje::kGrafik), std::optional<std::string>("12615680"));
+  EXPECT_EQ(f.settings.Query(keys::kBoje, keys::boje::kPozadina), std::optional<std::string>("16119285"));
+  EXPECT_EQ(f.settings.Query(keys::kBoje, keys::boje::kGrid), std::optional<std::string>("12566463"));
+  EXPECT_EQ(f.settings.Query(keys::kBoje, keys::boje::kOse), std::optional<std::string>("0"));
 }
 
 TEST_F(CommandsTest, AColourMenuRedrawsTheFunctionsOfTheWindow) {
@@ -232,7 +235,7 @@ class ClearGridTest : public CommandsTest, public ::testing::WithParamInterface<
 
 TEST_P(ClearGridTest, AsksOnlyWhenFunctionsWouldBeLost) {
   const ClearGridCase& c = GetParam();
-  f.settings.Store("Grid", "Autored", c.autored);
+  f.settings.Store(keys::kGrid, keys::grid::kAutored, c.autored);
   if (c.functions) OneFunction();
   W().SettxtY("typed");
   if (c.asks) f.messages.Answer(c.answer);
@@ -364,7 +367,7 @@ TEST_F(SaveTest, AFailedWriteIsReported) {
 
 TEST_F(CommandsTest, CopiesAreFramedWhenRamIsOn) {
   EXPECT_FALSE(commands->FrameOnCopies());
-  f.settings.Store("Grid", "Ram", "1");
+  f.settings.Store(keys::kGrid, keys::grid::kRam, "1");
   EXPECT_TRUE(commands->FrameOnCopies());
 }
 
