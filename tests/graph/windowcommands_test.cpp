@@ -280,6 +280,153 @@ TEST_F(CommandsTest, SwapExchangesTheTwoTexts) {
   EXPECT_EQ(W().Boxes().txtX().Text, "SinK");
 }
 
+// ---- Apply paths ------------------------------------------------------------------
+// What a command does once answered, called without the question: the
+// catalogue and the cli reach the commands this way.
+
+struct ApplyColourCase {
+  const char* name;
+  WindowCommands::ColourEntry entry;
+  const char* key;
+  bool paper;  // the empty paper is painted again
+};
+
+class ApplyColourTest : public CommandsTest, public ::testing::WithParamInterface<ApplyColourCase> {};
+
+TEST_P(ApplyColourTest, SetsSavesAndRedrawsWithoutTheDialog) {
+  const ApplyColourCase& c = GetParam();
+  OneFunction();
+  W().SettxtY("other");
+  commands->ApplyColour(c.entry, 0x00FF00);
+  EXPECT_TRUE(colours.opened.empty()) << "no dialog";
+  EXPECT_TRUE(f.messages.Boxes().empty());
+  EXPECT_EQ(f.settings.Query(keys::kBoje, c.key), std::optional<std::string>("65280"));
+  EXPECT_EQ(Cleared(), c.paper);
+  EXPECT_EQ(W().Boxes().txtY().Text, "X") << "the window's functions are drawn again";
+  EXPECT_FALSE(W().State().Zezaj());
+}
+
+INSTANTIATE_TEST_SUITE_P(Entries, ApplyColourTest,
+                         ::testing::Values(
+                             // The background, grid and axes colours show on the paper at once.
+                             ApplyColourCase{"Background", WindowCommands::ColourEntry::Background,
+                                             "Pozadina", true},
+                             ApplyColourCase{"Grid", WindowCommands::ColourEntry::Grid, "Grid", true},
+                             ApplyColourCase{"Axes", WindowCommands::ColourEntry::Axes, "Ose", true},
+                             // The graph colour is the pen of the next plot: the paper stays.
+                             ApplyColourCase{"Graph", WindowCommands::ColourEntry::Graph, "Grafik", false}),
+                         [](const auto& param) { return std::string(param.param.name); });
+
+TEST_F(CommandsTest, ApplyColourSetsTheColourItNames) {
+  commands->ApplyColour(WindowCommands::ColourEntry::Background, 0x112233);
+  EXPECT_EQ(W().pDraw().BackColor(), 0x112233u);
+  commands->ApplyColour(WindowCommands::ColourEntry::Grid, 0x0000FF);
+  EXPECT_EQ(W().Pen().GridColor(), 0x0000FFu);
+  commands->ApplyColour(WindowCommands::ColourEntry::Axes, 0x00FF00);
+  EXPECT_EQ(W().Pen().AxesColor(), 0x00FF00u);
+  // Only the colour's 24 bits are kept, as from the dialog.
+  commands->ApplyColour(WindowCommands::ColourEntry::Graph, 0xFF123456);
+  EXPECT_EQ(W().Pen().Graph_Clr(), 0x123456u);
+  EXPECT_EQ(f.settings.Query(keys::kBoje, keys::boje::kGrafik), std::optional<std::string>("1193046"));
+}
+
+TEST_F(CommandsTest, ApplyDefaultColourTakesTheFirstStartColours) {
+  W().SetGridColor(1);
+  W().pDraw().SetBackColor(4);
+  commands->ApplyColour(WindowCommands::ColourEntry::Default, 0x123456);  // the colour is ignored
+  EXPECT_EQ(W().Pen().GridColor(), 0xBFBFBFu);
+  EXPECT_EQ(W().pDraw().BackColor(), 0xF5F5F5u);
+  EXPECT_EQ(f.settings.Query(keys::kBoje, keys::boje::kPozadina), std::optional<std::string>("16119285"));
+}
+
+TEST_F(CommandsTest, ApplyClearAllClearsWithoutAsking) {
+  OneFunction();
+  commands->ApplyClearAll();
+  EXPECT_TRUE(f.messages.Boxes().empty());
+  EXPECT_EQ(W().State().KolkoFunkc(), 0);
+  EXPECT_TRUE(W().Boxes().txtY().List.empty());
+  EXPECT_TRUE(Cleared());
+}
+
+TEST_F(CommandsTest, ApplyClearHistoryEmptiesTheFileWithoutAsking) {
+  history->Append({"", " Y(X) = x"});
+  f.history = std::make_unique<HistoryLog>((folder_ / "GraphLog.txt").string());
+  f.Make();
+  commands =
+      std::make_unique<WindowCommands>(*f.window, f.settings, f.messages, &colours, &files, history.get());
+  ASSERT_FALSE(W().rtb().empty());
+  commands->ApplyClearHistory();
+  EXPECT_TRUE(f.messages.Boxes().empty());
+  EXPECT_TRUE(W().rtb().empty());
+  EXPECT_TRUE(history->ReadAll().empty());
+}
+
+struct ApplyGridCase {
+  const char* name;
+  bool redraw;  // ApplyRedrawGrid rather than ApplyClearGrid
+  const char* autored;
+  bool cleared;
+  bool paper;
+  bool replayed;
+};
+
+const ApplyGridCase kApplyGridCases[] = {
+    // Without AutoRedraw the menu would ask; the apply path does not, and
+    // the functions are gone.
+    {"ClearAutoOff", false, "0", true, false, false},
+    {"ClearAutoOn", false, "1", true, false, true},
+    {"RedrawAutoOff", true, "0", false, true, false},
+    {"RedrawAutoOn", true, "1", false, true, true},
+};
+
+class ApplyGridTest : public CommandsTest, public ::testing::WithParamInterface<ApplyGridCase> {};
+
+TEST_P(ApplyGridTest, NeverAsks) {
+  const ApplyGridCase& c = GetParam();
+  f.settings.Store(keys::kGrid, keys::grid::kAutored, c.autored);
+  OneFunction();
+  W().SettxtY("typed");
+  if (c.redraw) {
+    commands->ApplyRedrawGrid();
+  } else {
+    commands->ApplyClearGrid();
+  }
+  EXPECT_TRUE(f.messages.Boxes().empty());
+  EXPECT_EQ(Cleared(), c.cleared);
+  EXPECT_EQ(!f.surface.LinesIn(0xBFBFBF).empty(), c.paper);
+  EXPECT_EQ(W().Boxes().txtY().Text == "X", c.replayed);
+}
+
+INSTANTIATE_TEST_SUITE_P(Cases, ApplyGridTest, ::testing::ValuesIn(kApplyGridCases),
+                         [](const auto& param) { return std::string(param.param.name); });
+
+TEST_F(CommandsTest, ApplyClearFjuEmptiesTheBoxWithoutAsking) {
+  W().SettxtY("SinX");
+  commands->ApplyClearFju();
+  EXPECT_TRUE(f.messages.Boxes().empty());
+  EXPECT_TRUE(W().Boxes().txtY().Text.empty());
+}
+
+TEST_F(CommandsTest, NoApplyRunsDuringADraw) {
+  OneFunction();
+  W().SettxtY("SinK");
+  history->Append({"", " Y(X) = x"});
+  auto busy = W().Busy();
+  commands->ApplyColour(WindowCommands::ColourEntry::Background, 0x112233);
+  commands->ApplyColour(WindowCommands::ColourEntry::Default);
+  commands->ApplyClearAll();
+  commands->ApplyClearHistory();
+  commands->ApplyClearGrid();
+  commands->ApplyRedrawGrid();
+  commands->ApplyClearFju();
+  EXPECT_TRUE(f.surface.Ops().empty());
+  EXPECT_EQ(W().pDraw().BackColor(), 0xF5F5F5u);
+  EXPECT_FALSE(f.settings.Query(keys::kBoje, keys::boje::kPozadina).has_value());
+  EXPECT_EQ(W().State().KolkoFunkc(), 1);
+  EXPECT_EQ(W().Boxes().txtY().Text, "SinK");
+  EXPECT_FALSE(history->ReadAll().empty());
+}
+
 TEST_F(CommandsTest, NothingRunsDuringADraw) {
   OneFunction();
   W().SettxtY("SinK");
