@@ -40,6 +40,15 @@ class CommandsTest : public ::testing::Test {
   void TearDown() override { std::filesystem::remove_all(folder_); }
 
   GraphWindow& W() { return *f.window; }
+  // A new window over a history file that holds one record: a window
+  // loads the history when it opens.
+  void WindowWithHistory() {
+    history->Append({"", " Y(X) = x"});
+    f.history = std::make_unique<HistoryLog>((folder_ / "GraphLog.txt").string());
+    f.Make();
+    commands =
+        std::make_unique<WindowCommands>(*f.window, f.settings, f.messages, &colours, &files, history.get());
+  }
   // A window that holds one function in its list.
   void OneFunction() { testing::HoldFunctions(W(), {"X"}); }
   bool Cleared() const {
@@ -186,12 +195,7 @@ TEST_F(CommandsTest, ClearScreenKeepsTheLists) {
 }
 
 TEST_F(CommandsTest, ClearHistoryAsksThenEmptiesTheFile) {
-  history->Append({"", " Y(X) = x"});
-  // A window loads the history when it opens.
-  f.history = std::make_unique<HistoryLog>((folder_ / "GraphLog.txt").string());
-  f.Make();
-  commands =
-      std::make_unique<WindowCommands>(*f.window, f.settings, f.messages, &colours, &files, history.get());
+  WindowWithHistory();
   ASSERT_FALSE(W().rtb().empty());
   f.messages.Answer(MsgResult::No);
   commands->mnuclhistory();
@@ -207,6 +211,7 @@ TEST_F(CommandsTest, ClearHistoryAsksThenEmptiesTheFile) {
 
 struct ClearGridCase {
   const char* name;
+  bool apply;   // the apply path (ApplyClearGrid, ApplyRedrawGrid), which never asks
   bool redraw;  // "&Redraw Grid" rather than "Clear &Grid"
   const char* autored;
   bool functions;
@@ -219,16 +224,21 @@ struct ClearGridCase {
 
 const ClearGridCase kClearGridCases[] = {
     // AutoRedraw on: no question; the functions come back (without paper).
-    {"GridAutoOn", false, "1", true, false, MsgResult::Ok, true, false, true},
+    {"GridAutoOn", false, false, "1", true, false, MsgResult::Ok, true, false, true},
     // AutoRedraw off with functions: the question; Cancel stops.
-    {"GridAutoOffCancel", false, "0", true, true, MsgResult::Cancel, false, false, false},
-    {"GridAutoOffOk", false, "0", true, true, MsgResult::Ok, true, false, false},
+    {"GridAutoOffCancel", false, false, "0", true, true, MsgResult::Cancel, false, false, false},
+    {"GridAutoOffOk", false, false, "0", true, true, MsgResult::Ok, true, false, false},
     // Nothing drawn: nothing to lose, no question.
-    {"GridAutoOffEmpty", false, "0", false, false, MsgResult::Ok, true, false, false},
+    {"GridAutoOffEmpty", false, false, "0", false, false, MsgResult::Ok, true, false, false},
     // Redraw Grid paints the paper over the picture.
-    {"RedrawAutoOn", true, "1", true, false, MsgResult::Ok, false, true, true},
-    {"RedrawAutoOffCancel", true, "0", true, true, MsgResult::Cancel, false, false, false},
-    {"RedrawAutoOffOk", true, "0", true, true, MsgResult::Ok, false, true, false},
+    {"RedrawAutoOn", false, true, "1", true, false, MsgResult::Ok, false, true, true},
+    {"RedrawAutoOffCancel", false, true, "0", true, true, MsgResult::Cancel, false, false, false},
+    {"RedrawAutoOffOk", false, true, "0", true, true, MsgResult::Ok, false, true, false},
+    // The apply paths act as after Ok, without the question.
+    {"ApplyGridAutoOff", true, false, "0", true, false, MsgResult::Ok, true, false, false},
+    {"ApplyGridAutoOn", true, false, "1", true, false, MsgResult::Ok, true, false, true},
+    {"ApplyRedrawAutoOff", true, true, "0", true, false, MsgResult::Ok, false, true, false},
+    {"ApplyRedrawAutoOn", true, true, "1", true, false, MsgResult::Ok, false, true, true},
 };
 
 class ClearGridTest : public CommandsTest, public ::testing::WithParamInterface<ClearGridCase> {};
@@ -239,7 +249,11 @@ TEST_P(ClearGridTest, AsksOnlyWhenFunctionsWouldBeLost) {
   if (c.functions) OneFunction();
   W().SettxtY("typed");
   if (c.asks) f.messages.Answer(c.answer);
-  if (c.redraw) {
+  if (c.apply && c.redraw) {
+    commands->ApplyRedrawGrid();
+  } else if (c.apply) {
+    commands->ApplyClearGrid();
+  } else if (c.redraw) {
     commands->RedrawGrid();
   } else {
     commands->ClearGrid();
@@ -349,56 +363,13 @@ TEST_F(CommandsTest, ApplyClearAllClearsWithoutAsking) {
 }
 
 TEST_F(CommandsTest, ApplyClearHistoryEmptiesTheFileWithoutAsking) {
-  history->Append({"", " Y(X) = x"});
-  f.history = std::make_unique<HistoryLog>((folder_ / "GraphLog.txt").string());
-  f.Make();
-  commands =
-      std::make_unique<WindowCommands>(*f.window, f.settings, f.messages, &colours, &files, history.get());
+  WindowWithHistory();
   ASSERT_FALSE(W().rtb().empty());
   commands->ApplyClearHistory();
   EXPECT_TRUE(f.messages.Boxes().empty());
   EXPECT_TRUE(W().rtb().empty());
   EXPECT_TRUE(history->ReadAll().empty());
 }
-
-struct ApplyGridCase {
-  const char* name;
-  bool redraw;  // ApplyRedrawGrid rather than ApplyClearGrid
-  const char* autored;
-  bool cleared;
-  bool paper;
-  bool replayed;
-};
-
-const ApplyGridCase kApplyGridCases[] = {
-    // Without AutoRedraw the menu would ask; the apply path does not, and
-    // the functions are gone.
-    {"ClearAutoOff", false, "0", true, false, false},
-    {"ClearAutoOn", false, "1", true, false, true},
-    {"RedrawAutoOff", true, "0", false, true, false},
-    {"RedrawAutoOn", true, "1", false, true, true},
-};
-
-class ApplyGridTest : public CommandsTest, public ::testing::WithParamInterface<ApplyGridCase> {};
-
-TEST_P(ApplyGridTest, NeverAsks) {
-  const ApplyGridCase& c = GetParam();
-  f.settings.Store(keys::kGrid, keys::grid::kAutored, c.autored);
-  OneFunction();
-  W().SettxtY("typed");
-  if (c.redraw) {
-    commands->ApplyRedrawGrid();
-  } else {
-    commands->ApplyClearGrid();
-  }
-  EXPECT_TRUE(f.messages.Boxes().empty());
-  EXPECT_EQ(Cleared(), c.cleared);
-  EXPECT_EQ(!f.surface.LinesIn(0xBFBFBF).empty(), c.paper);
-  EXPECT_EQ(W().Boxes().txtY().Text == "X", c.replayed);
-}
-
-INSTANTIATE_TEST_SUITE_P(Cases, ApplyGridTest, ::testing::ValuesIn(kApplyGridCases),
-                         [](const auto& param) { return std::string(param.param.name); });
 
 TEST_F(CommandsTest, ApplyClearFjuEmptiesTheBoxWithoutAsking) {
   W().SettxtY("SinX");
