@@ -4,6 +4,7 @@
 #include <cmath>
 
 #include "base/asciicase.h"
+#include "expr/checked.h"
 #include "expr/fault.h"
 #include "expr/functionlibrary.h"
 #include "expr/normalise.h"
@@ -14,45 +15,6 @@
 #include "platform/settingskeys.h"
 
 namespace velmora::graph {
-namespace {
-
-// Runs one statement of a routine that goes on after a fault.
-template <class Statement>
-void ResumeNext(Statement&& statement) {
-  try {
-    statement();
-  } catch (const expr::Fault&) {
-  }
-}
-
-// A whole text that reads as one number: blanks round it, a sign, digits
-// with one decimal point, an exponent.
-bool IsNumericText(std::string_view text) {
-  std::size_t i = 0;
-  const auto skipBlanks = [&] {
-    while (i < text.size() && (text[i] == ' ' || text[i] == '\t')) ++i;
-  };
-  skipBlanks();
-  if (i < text.size() && (text[i] == '+' || text[i] == '-')) ++i;
-  bool digits = false;
-  while (i < text.size() && text[i] >= '0' && text[i] <= '9') ++i, digits = true;
-  if (i < text.size() && text[i] == '.') {
-    ++i;
-    while (i < text.size() && text[i] >= '0' && text[i] <= '9') ++i, digits = true;
-  }
-  if (!digits) return false;
-  if (i < text.size() && (text[i] == 'e' || text[i] == 'E')) {
-    ++i;
-    if (i < text.size() && (text[i] == '+' || text[i] == '-')) ++i;
-    bool exponent = false;
-    while (i < text.size() && text[i] >= '0' && text[i] <= '9') ++i, exponent = true;
-    if (!exponent) return false;
-  }
-  skipBlanks();
-  return i == text.size();
-}
-
-}  // namespace
 
 // The plot procedures: one loop, and these differences around it.
 void GraphWindow::CrtajFJU() {
@@ -96,8 +58,8 @@ void GraphWindow::ChooseColour() {
     const int blue = static_cast<int>(std::floor(expr::NextRandom(1) * 255));
     pen_.SetGraph_Clr(Rgb(red, green, blue));
   } else {
-    pen_.ChooseGraphColour(
-        static_cast<Colour>(platform::ReadSettingNumber(*services_.settings, "Boje", "Grafik")));
+    pen_.ChooseGraphColour(static_cast<Colour>(
+        ReadSettingNumber(*services_.settings, platform::keys::kBoje, platform::keys::boje::kGrafik)));
   }
 }
 
@@ -118,11 +80,11 @@ void GraphWindow::Draw(const PlotProcedure& procedure) {
     if (!polar && boxes_.optFunkcije() == kParametric && !CheckSyntax(funcX)) return;
   }
   // A solid pen, no cross-hairs or tangent mark, this plot's colour and width.
-  ResumeNext([&] { surface_.SetDrawStyle(kSolid); });
+  expr::ResumeNext([&] { surface_.SetDrawStyle(kSolid); });
   HideLines();
   ChooseColour();
   pen_.EnsureLineWidth();
-  ResumeNext([&] { surface_.SetDrawWidth(expr::ToShort(pen_.GraphLineWidth())); });
+  expr::ResumeNext([&] { surface_.SetDrawWidth(expr::ToShort(pen_.GraphLineWidth())); });
   // K is the only variable; EP and STL keep the X of EXP and FIX. A polar R
   // becomes the pair R sin K, R cos K.
   if (polar) {
@@ -152,7 +114,7 @@ void GraphWindow::Draw(const PlotProcedure& procedure) {
     if (procedure.remember) AddRecent(polar);
     if (services_.host != nullptr) services_.host->FocusFunctionBox();
     if (procedure.remember) Remember(polar);
-    lblPointtab_.ForeColor = Grid("Rnd") == 1 ? pen_.Graph_Clr() : 0;
+    lblPointtab_.ForeColor = Grid(platform::keys::grid::kRnd) == 1 ? pen_.Graph_Clr() : 0;
   }
   Progress(lblPerCent_.Caption, false);
   draw_.SetPlotted();
@@ -163,16 +125,17 @@ void GraphWindow::AddRecent(bool polar) {
   if (services_.recent == nullptr) return;
   const int type = boxes_.optFunkcije();
   const char* word = polar ? "Polar" : type == kParametric ? "Parametric" : "Cartesian";
-  ResumeNext(
+  expr::ResumeNext(
       [&] { services_.recent->AddRecent(boxes_.txtY().Text + " ; " + boxes_.txtX().Text + " | " + word); });
 }
 
 void GraphWindow::FinishTable(bool polar, double lastXp) {
-  ResumeNext([&] {
+  expr::ResumeNext([&] {
     if (polar) {
       FillValueTablePolar();
     } else if (boxes_.optFunkcije() == kCartesian) {
-      ResumeNext([&] { draw_.SetXkraj(view_.PomeriX((lastXp - surface_.ScaleWidth() / 2) / ZoomText())); });
+      expr::ResumeNext(
+          [&] { draw_.SetXkraj(view_.PomeriX((lastXp - surface_.ScaleWidth() / 2) / ZoomText())); });
       FillValueTable(draw_.Xpoc(), draw_.Xkraj());
     } else if (boxes_.optFunkcije() == kParametric) {
       FillValueTableParam(9, -9);
@@ -187,7 +150,7 @@ void GraphWindow::Remember(bool polar) {
 
 void GraphWindow::RedrawFunc() {
   if (draw_.Drawing()) return;
-  if (Grid("Autored") != 1) {
+  if (Grid(platform::keys::grid::kAutored) != 1) {
     draw_.SetKolkoFunkc(0);
     return;
   }
@@ -206,7 +169,7 @@ void GraphWindow::txtY_Click() {
   optFunk(boxes_.TypeOfPick());
   if (services_.host != nullptr) services_.host->RefreshFrame();
   lblPointtab_.ForeColor = 0;
-  if (Grid("Autored") == 1) {
+  if (Grid(platform::keys::grid::kAutored) == 1) {
     if (boxes_.optFunkcije() == kPolar) {
       CrtajPolarAuto();
     } else {
@@ -214,7 +177,7 @@ void GraphWindow::txtY_Click() {
     }
     return;
   }
-  ResumeNext([&] {
+  expr::ResumeNext([&] {
     switch (boxes_.optFunkcije()) {
       case kCartesian: FillValueTable(draw_.Xpoc(), draw_.Xkraj()); break;
       case kParametric: FillValueTableParam(9, -9); break;
@@ -237,7 +200,7 @@ bool GraphWindow::ApplyPlotWidth(std::string_view answer) {
   double value = 0;
   bool numeric = false;
   try {
-    numeric = IsNumericText(answer);
+    numeric = expr::IsNumericText(answer);
     value = expr::TextToNumber(answer);
   } catch (const expr::Fault&) {
     numeric = false;

@@ -59,10 +59,10 @@ bool GraphPaper::DrawLines(const PaperView& v) {
   // The standard font.
   StandardFont();
   // Assigned axes draw their text transparent.
-  const bool ozna = Number("Ozna") == 1;
+  const bool ozna = Number(grid::kOzna) == 1;
   if (ozna) surface_.SetFontTransparent(true);
   // The grid's pen.
-  const int dashStyle = Number("Dash") == 1 ? kDot : kSolid;
+  const int dashStyle = Number(grid::kDash) == 1 ? kDot : kSolid;
   surface_.SetDrawStyle(dashStyle);
   // The steps, in user units.
   double stepX = 0;
@@ -134,7 +134,7 @@ bool GraphPaper::DrawLines(const PaperView& v) {
     CrtajStrele(v);
   }
   // The scale note.
-  if (Number("Skala") == 1) {
+  if (Number(grid::kSkala) == 1) {
     StandardFont();
     surface_.SetForeColor(v.AxesColor);
     surface_.SetCurrentX(8);

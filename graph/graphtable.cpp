@@ -3,6 +3,7 @@
 #include <optional>
 
 #include "base/asciicase.h"
+#include "expr/checked.h"
 #include "expr/fault.h"
 #include "expr/normalise.h"
 #include "expr/numtext.h"
@@ -12,18 +13,6 @@
 #include "graph/tablerows.h"
 
 namespace velmora::graph {
-namespace {
-
-template <class Statement>
-void ResumeNext(Statement&& statement) {
-  try {
-    statement();
-  } catch (const expr::Fault&) {
-  }
-}
-
-}  // namespace
-
 void GraphWindow::FillValueTable(double from, double to) {
   const std::string& y = boxes_.txtY().Text;
   const bool hasK = base::UpperCase(y).find('K') != std::string::npos;
@@ -59,7 +48,7 @@ void GraphWindow::funcSave() {
   // form of the text; a failure leaves the text empty.
   const auto valueAt = [this](const std::string& function, const std::string& point, int decimals) {
     std::string text;
-    ResumeNext([&] {
+    expr::ResumeNext([&] {
       auto& evaluator = Evaluator1();
       evaluator.SetFormula(expr::ReplaceAll(expr::Zagrade(function), "x", "(" + point + ")"));
       double value = evaluator.Result();

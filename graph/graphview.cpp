@@ -2,6 +2,7 @@
 // paper; the frame then replays the functions with RedrawFunc.
 #include <cmath>
 
+#include "expr/checked.h"
 #include "expr/fault.h"
 #include "expr/numtext.h"
 #include "graph/drawingguard.h"
@@ -35,14 +36,6 @@ constexpr double kZumDec = 8;
 constexpr double kZumStef = 15;
 constexpr double kZumGama = 44;
 constexpr double kZumPuding = 177;
-
-template <class Statement>
-void ResumeNext(Statement&& statement) {
-  try {
-    statement();
-  } catch (const expr::Fault&) {
-  }
-}
 
 }  // namespace
 
@@ -160,7 +153,7 @@ void GraphWindow::ApplyMove(MoveDirection direction, std::string_view answer) {
   if (draw_.Drawing() || answer.empty()) return;
   // The answer counts grid steps of the X axis, whichever way the move goes.
   double shift = 0;
-  ResumeNext([&] {
+  expr::ResumeNext([&] {
     const double gridStep = expr::TextToNumber(
         platform::ReadSetting(*services_.settings, platform::keys::kGrid, platform::keys::grid::kScaleX));
     shift = expr::RoundTo(expr::TextToNumber(answer) * gridStep, 1);

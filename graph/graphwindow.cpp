@@ -4,11 +4,14 @@
 
 #include "expr/fault.h"
 #include "expr/numtext.h"
+#include "graph/settingnumber.h"
 #include "graph/tablerows.h"
 #include "platform/settingskeys.h"
 
 namespace velmora::graph {
 namespace {
+
+namespace keys = platform::keys;
 
 constexpr Colour kLabelGrey = 0xDFDFDF;
 
@@ -25,10 +28,10 @@ GraphWindow::GraphWindow(Surface& pDraw, GraphServices services)
   optFunk(kCartesian);
   // Colours from the settings.
   auto& settings = *services_.settings;
-  surface_.SetBackColor(static_cast<Colour>(platform::ReadSettingNumber(settings, "Boje", "Pozadina")));
-  pen_.ChooseGraphColour(static_cast<Colour>(platform::ReadSettingNumber(settings, "Boje", "Grafik")));
-  pen_.SetGridColor(static_cast<Colour>(platform::ReadSettingNumber(settings, "Boje", "Grid")));
-  pen_.SetAxesColor(static_cast<Colour>(platform::ReadSettingNumber(settings, "Boje", "Ose")));
+  surface_.SetBackColor(static_cast<Colour>(ReadSettingNumber(settings, keys::kBoje, keys::boje::kPozadina)));
+  pen_.ChooseGraphColour(static_cast<Colour>(ReadSettingNumber(settings, keys::kBoje, keys::boje::kGrafik)));
+  pen_.SetGridColor(static_cast<Colour>(ReadSettingNumber(settings, keys::kBoje, keys::boje::kGrid)));
+  pen_.SetAxesColor(static_cast<Colour>(ReadSettingNumber(settings, keys::kBoje, keys::boje::kOse)));
   lblPerCent_.BackColor = kLabelGrey;
   lblPerCent_.Visible = false;
   lblChart_.BackColor = kLabelGrey;
@@ -45,7 +48,7 @@ GraphWindow::GraphWindow(Surface& pDraw, GraphServices services)
 GraphWindow::~GraphWindow() = default;
 
 double GraphWindow::Grid(std::string_view name) const {
-  return platform::ReadSettingNumber(*services_.settings, "Grid", name);
+  return ReadSettingNumber(*services_.settings, keys::kGrid, name);
 }
 
 PaperView GraphWindow::Paper() const {

@@ -2,6 +2,7 @@
 
 #include <cmath>
 
+#include "expr/checked.h"
 #include "expr/fault.h"
 #include "expr/normalise.h"
 #include "expr/numtext.h"
@@ -20,21 +21,7 @@ constexpr double kValueLimit = 1000;
 // Half the length of the tangent mark, in user units.
 constexpr double kMarkHalf = 4;
 
-template <class Statement>
-void ResumeNext(Statement&& statement) {
-  try {
-    statement();
-  } catch (const expr::Fault&) {
-  }
-}
-
 std::string T(double value) { return expr::NumberToText(value); }
-
-// Division as the platform does it: by zero is a fault, not an infinity.
-double Divide(double a, double b) {
-  if (b == 0) throw expr::Fault(expr::Fault::kDivisionByZero);
-  return a / b;
-}
 
 }  // namespace
 
@@ -56,20 +43,20 @@ void MouseReadout::MouseMove(int button, double x, double y) {
   const double z = w_.ZoomText();
   double mx = 0;
   double my = 0;
-  ResumeNext([&] { mx = Divide(x - width / 2, z); });
-  ResumeNext([&] { my = -Divide(y - height / 2, z); });
-  ResumeNext([&] { v_.mx1 = expr::RoundTo(mx, 1); });
-  ResumeNext([&] { v_.my1 = expr::RoundTo(my, 1); });
-  ResumeNext([&] { v_.mx5 = expr::RoundTo(mx, 5); });
-  ResumeNext([&] { v_.my5 = expr::RoundTo(my, 5); });
+  expr::ResumeNext([&] { mx = expr::CheckedDiv(x - width / 2, z); });
+  expr::ResumeNext([&] { my = -expr::CheckedDiv(y - height / 2, z); });
+  expr::ResumeNext([&] { v_.mx1 = expr::RoundTo(mx, 1); });
+  expr::ResumeNext([&] { v_.my1 = expr::RoundTo(my, 1); });
+  expr::ResumeNext([&] { v_.mx5 = expr::RoundTo(mx, 5); });
+  expr::ResumeNext([&] { v_.my5 = expr::RoundTo(my, 5); });
   // A moved centre: the readout counts from the moved origin.
   if (w_.View().MovedRight() || w_.View().MovedLeft()) {
-    ResumeNext([&] { v_.mx1 = expr::RoundTo(v_.mx1 - w_.View().MoveX(), 1); });
-    ResumeNext([&] { v_.mx5 = expr::RoundTo(v_.mx5 - w_.View().MoveX(), 5); });
+    expr::ResumeNext([&] { v_.mx1 = expr::RoundTo(v_.mx1 - w_.View().MoveX(), 1); });
+    expr::ResumeNext([&] { v_.mx5 = expr::RoundTo(v_.mx5 - w_.View().MoveX(), 5); });
   }
   if (w_.View().MovedUp() || w_.View().MovedDown()) {
-    ResumeNext([&] { v_.my1 = expr::RoundTo(v_.my1 - w_.View().MoveY(), 1); });
-    ResumeNext([&] { v_.my5 = expr::RoundTo(v_.my5 - w_.View().MoveY(), 5); });
+    expr::ResumeNext([&] { v_.my1 = expr::RoundTo(v_.my1 - w_.View().MoveY(), 1); });
+    expr::ResumeNext([&] { v_.my5 = expr::RoundTo(v_.my5 - w_.View().MoveY(), 5); });
   }
   // The readout as it stands: a branch that computes nothing leaves it, and
   // every way out shows what it became.
@@ -86,8 +73,8 @@ void MouseReadout::MouseMove(int button, double x, double y) {
   }
   // Parametric: k from the mouse, x (k) and y (k).
   if (w_.Boxes().optFunkcije() == kParametric) {
-    ResumeNext([&] { v_.xk = expr::RoundTo(w_.EvaluateAt(mouseX_, v_.mx5), 5); });
-    ResumeNext([&] { v_.value = expr::RoundTo(w_.EvaluateAt(mouseY_, v_.mx5), 5); });
+    expr::ResumeNext([&] { v_.xk = expr::RoundTo(w_.EvaluateAt(mouseX_, v_.mx5), 5); });
+    expr::ResumeNext([&] { v_.value = expr::RoundTo(w_.EvaluateAt(mouseY_, v_.mx5), 5); });
     text = "   " + std::string(" k = ") + T(v_.mx1) + " [" + T(v_.mx5) + "]; " + " x (k) = " + T(v_.xk) +
            "; y (k) = " + T(v_.value);
     w_.ShowLine(OverlayLine::Line2, LineControl{x, 0, x, height, true});
@@ -95,13 +82,13 @@ void MouseReadout::MouseMove(int button, double x, double y) {
   }
   // The function at the mouse column and its slope.
   if (w_.Boxes().txtY().Text.empty()) return;
-  ResumeNext([&] { v_.tx = Divide(x - w_.View().CenterX(), w_.View().Zoom()); });
+  expr::ResumeNext([&] { v_.tx = expr::CheckedDiv(x - w_.View().CenterX(), w_.View().Zoom()); });
   const auto cut = [](double value) { return std::floor(value * 1000) / 1000; };
-  ResumeNext([&] { v_.ty = w_.EvaluateAt(mouseY_, cut(v_.tx)); });
+  expr::ResumeNext([&] { v_.ty = w_.EvaluateAt(mouseY_, cut(v_.tx)); });
   double y1 = 0;
   double y2 = 0;
-  ResumeNext([&] { y1 = w_.EvaluateAt(mouseY_, cut(v_.tx - kSlopeStep)); });
-  ResumeNext([&] { y2 = w_.EvaluateAt(mouseY_, cut(v_.tx + kSlopeStep)); });
+  expr::ResumeNext([&] { y1 = w_.EvaluateAt(mouseY_, cut(v_.tx - kSlopeStep)); });
+  expr::ResumeNext([&] { y2 = w_.EvaluateAt(mouseY_, cut(v_.tx + kSlopeStep)); });
   v_.slope = (y2 - y1) / (2 * kSlopeStep);
   // The tangent mark, 4 units either side of the point, and the vertical
   // cross-hair.
@@ -119,7 +106,7 @@ void MouseReadout::MouseMove(int button, double x, double y) {
     const double mx5 = v_.mx5;
     const double my5 = v_.my5;
     double a = 0;
-    ResumeNext([&] {
+    expr::ResumeNext([&] {
       if (mx5 > 0 && my5 != 0) {
         a = expr::RoundTo(std::atan(my5 / mx5), 5);
       } else if (mx5 < 0 && my5 != 0) {
@@ -129,17 +116,17 @@ void MouseReadout::MouseMove(int button, double x, double y) {
       }
     });
     v_.angle = a;
-    ResumeNext([&] { v_.radius = expr::RoundTo(std::sqrt(mx5 * mx5 + my5 * my5), 5); });
-    ResumeNext([&] { v_.polarR = w_.EvaluateAt(mouseY_, v_.angle); });
+    expr::ResumeNext([&] { v_.radius = expr::RoundTo(std::sqrt(mx5 * mx5 + my5 * my5), 5); });
+    expr::ResumeNext([&] { v_.polarR = w_.EvaluateAt(mouseY_, v_.angle); });
     double turns = 0;
-    ResumeNext([&] { turns = expr::RoundTo(v_.angle / kPi12, 3); });
+    expr::ResumeNext([&] { turns = expr::RoundTo(v_.angle / kPi12, 3); });
     text = "   " + std::string(" x = ") + T(v_.mx1) + " [" + T(mx5) + "]; " + "y = " + T(v_.my1) + " [" +
            T(my5) + "];" + " r = " + T(v_.radius);
     text += "; \xC3\xB8 = " + T(v_.angle) + " (" + T(turns) + "*Pi)";
     return;
   }
   // Cartesian: the value at the mouse.
-  ResumeNext([&] { v_.value = expr::RoundTo(w_.EvaluateAt(mouseY_, v_.mx5), 5); });
+  expr::ResumeNext([&] { v_.value = expr::RoundTo(w_.EvaluateAt(mouseY_, v_.mx5), 5); });
   if (std::fabs(v_.value) >= kValueLimit) {
     text = "   " + std::string(" (x1 , y1) = (") + T(v_.mx1) + " , Error )";
     return;
@@ -147,7 +134,7 @@ void MouseReadout::MouseMove(int button, double x, double y) {
   // The horizontal cross-hair, from the middle of the surface rather
   // than the centre: with a moved centre it stays in the frame of the plot
   // area's middle.
-  ResumeNext([&] {
+  expr::ResumeNext([&] {
     const double h = expr::RoundTo(height / 2 + (-(v_.value * z)), 3);
     w_.ShowLine(OverlayLine::LineY, LineControl{0, h, width, h, true});
   });

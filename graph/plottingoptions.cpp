@@ -111,7 +111,7 @@ void PlottingOptions::Apply(platform::SettingsStore& settings, platform::Message
   if (Check(2)) active->SetCheck1(true);
   // Redrawn at once in the new settings: with AutoRedraw the functions come
   // back; without it they would be lost, so the user is asked first.
-  if (platform::ReadSettingNumber(settings, kSection, "Autored") == 1) {
+  if (ReadSettingNumber(settings, kSection, platform::keys::grid::kAutored) == 1) {
     active->Clearwith();
     active->DrawLines();
     active->RedrawFunc();

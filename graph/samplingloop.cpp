@@ -1,8 +1,8 @@
 #include "graph/samplingloop.h"
 
-#include <cfloat>
 #include <cmath>
 
+#include "expr/checked.h"
 #include "expr/fault.h"
 #include "expr/numtext.h"
 #include "graph/graphwindow.h"
@@ -12,27 +12,6 @@ namespace {
 
 // The plot limit in user units.
 constexpr double kLimit = 100;
-
-template <class Statement>
-void ResumeNext(Statement&& statement) {
-  try {
-    statement();
-  } catch (const expr::Fault&) {
-  }
-}
-
-// The program's float arithmetic faults where a result is not finite.
-double Checked(double value) {
-  if (std::isnan(value)) throw expr::Fault(expr::Fault::kOverflow);
-  if (std::isinf(value)) throw expr::Fault(expr::Fault::kOverflow);
-  return value;
-}
-
-// Narrowing to single precision faults beyond its range.
-float ToSingle(double value) {
-  if (!(std::fabs(value) <= static_cast<double>(FLT_MAX))) throw expr::Fault(expr::Fault::kOverflow);
-  return static_cast<float>(value);
-}
 
 // Abs(Val(text of Y)) > 100: the test reads the value's text, so the five
 // spellings of a value that is not finite read as 1 or -1 and never pass,
@@ -76,9 +55,9 @@ double CurveStrategy::SampleX(double kr, double yr) { return window_.F2(kr, yr);
 
 std::string SamplingLoop::ProgressText(double k, double centerX, double zoom, double scaleWidth) {
   std::string text = "Done...   ";
-  ResumeNext([&] {
+  expr::ResumeNext([&] {
     const double share =
-        Checked(100 * (k + centerX / zoom) / ((scaleWidth - centerX) / zoom + centerX / zoom));
+        expr::Checked(100 * (k + centerX / zoom) / ((scaleWidth - centerX) / zoom + centerX / zoom));
     // Int() of a share beyond any whole number the label can show faults.
     if (std::fabs(share) >= 1e15) throw expr::Fault(expr::Fault::kOverflow);
     text += std::to_string(static_cast<long long>(std::floor(share)));
@@ -115,27 +94,28 @@ LoopResult SamplingLoop::Run() {
     if (!NotFinite(y) && y != 0 && !(std::fabs(y) > kLimit)) {
       // X of the sample (K itself in Cartesian type), and both in pixels.
       x = strategy_.SampleX(kr, std::floor(y * 1000) / 1000);
-      ResumeNext([&] { xp = Checked(w.view_.CenterX() + Checked(x * w.view_.Zoom())); });
-      ResumeNext([&] { yp = Checked(w.view_.CenterY() + (-y) * w.view_.Zoom()); });
+      expr::ResumeNext([&] { xp = expr::Checked(w.view_.CenterX() + expr::Checked(x * w.view_.Zoom())); });
+      expr::ResumeNext([&] { yp = expr::Checked(w.view_.CenterY() + (-y) * w.view_.Zoom()); });
       // The first plotted X of a Cartesian curve, for the value table.
       if (strategy_.TakesXpoc() && !first) {
-        ResumeNext(
-            [&] { w.draw_.SetXpoc(w.view_.PomeriX(Checked((xp - s.ScaleWidth() / 2) / w.ZoomText()))); });
+        expr::ResumeNext([&] {
+          w.draw_.SetXpoc(w.view_.PomeriX(expr::Checked((xp - s.ScaleWidth() / 2) / w.ZoomText())));
+        });
         first = true;
       }
       // Join, move or lift the pen. A fault in the range test takes the branch, as the platform's
       // resume-next does.
-      ResumeNext([&] { s.SetDrawWidth(expr::ToShort(w.pen_.GraphLineWidth())); });
+      expr::ResumeNext([&] { s.SetDrawWidth(expr::ToShort(w.pen_.GraphLineWidth())); });
       bool inRange = true;
-      ResumeNext([&] {
-        const float narrowed = ToSingle(yp);
+      expr::ResumeNext([&] {
+        const float narrowed = expr::CheckedToSingle(yp);
         inRange = 0 < narrowed && narrowed < s.ScaleHeight();
       });
       bool progress = true;
       if (penUp) {
         if (inRange) {
           if (!notStarted) {
-            ResumeNext([&] { s.LineTo(xp, yp, w.pen_.Graph_Clr()); });
+            expr::ResumeNext([&] { s.LineTo(xp, yp, w.pen_.Graph_Clr()); });
             action = PassAction::Line;
           } else {
             s.SetCurrentX(xp);
@@ -151,7 +131,7 @@ LoopResult SamplingLoop::Run() {
           progress = false;
         }
       } else {
-        ResumeNext([&] { s.LineTo(xp, yp, w.pen_.Graph_Clr()); });
+        expr::ResumeNext([&] { s.LineTo(xp, yp, w.pen_.Graph_Clr()); });
         action = PassAction::Line;
         if (!inRange) {
           s.SetCurrentX(xp);
@@ -171,7 +151,7 @@ LoopResult SamplingLoop::Run() {
     // The pen for the next segment: invisible after a sample whose text
     // reads beyond the limit or whose X is not finite.
     const bool invisible = TextAboveLimit(y) || NotFinite(x);
-    ResumeNext([&] { s.SetDrawStyle(invisible ? kInvisible : kSolid); });
+    expr::ResumeNext([&] { s.SetDrawStyle(invisible ? kInvisible : kSolid); });
     if (w.services_.observer != nullptr)
       w.services_.observer->Pass({kr, y, x, xp, yp, action, s.DrawStyle()});
     // A Stop (Esc, the progress label) ends the loop after this sample.

@@ -24,11 +24,3 @@ inline double ReadSettingNumber(platform::SettingsStore& store, std::string_view
 }
 
 }  // namespace velmora::graph
-
-// The graph window's constructor still names this reader by its old home,
-// platform::ReadSettingNumber; the name stays reachable here until that code
-// calls graph::ReadSettingNumber. It is no part of platform/ and links
-// nothing there.
-namespace velmora::platform {
-using graph::ReadSettingNumber;
-}  // namespace velmora::platform

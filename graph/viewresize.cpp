@@ -28,13 +28,15 @@ void ViewResize::Apply(GraphWindow& window, const Plan& plan) {
 
 bool ViewResize::RepaintWhenSettled(const GraphWindow& window, platform::SettingsStore& settings) {
   if (window.State().Drawing()) return false;
-  return window.State().KolkoFunkc() == 0 || platform::ReadSettingNumber(settings, "Grid", "Autored") == 1;
+  return window.State().KolkoFunkc() == 0 ||
+         ReadSettingNumber(settings, platform::keys::kGrid, platform::keys::grid::kAutored) == 1;
 }
 
 void ViewResize::Repaint(GraphWindow& window, platform::SettingsStore& settings) {
   window.Clearwith();
   window.DrawLines();
-  if (window.State().KolkoFunkc() > 0 && platform::ReadSettingNumber(settings, "Grid", "Autored") == 1)
+  if (window.State().KolkoFunkc() > 0 &&
+      ReadSettingNumber(settings, platform::keys::kGrid, platform::keys::grid::kAutored) == 1)
     window.RedrawFunc();
 }
 

@@ -1,5 +1,6 @@
 #include "graph/viewstate.h"
 
+#include "expr/checked.h"
 #include "expr/fault.h"
 #include "expr/numtext.h"
 
@@ -29,14 +30,8 @@ void ViewState::Move(MoveDirection direction, std::string_view answer, double sh
 }
 
 void ViewState::UpdateMoveCentre(double width, double height) {
-  try {
-    moveX_ = expr::RoundTo((centerX_ - width / 2) / zoom_, 3);
-  } catch (const expr::Fault&) {
-  }
-  try {
-    moveY_ = expr::RoundTo(-(centerY_ - height / 2) / zoom_, 3);
-  } catch (const expr::Fault&) {
-  }
+  expr::ResumeNext([&] { moveX_ = expr::RoundTo((centerX_ - width / 2) / zoom_, 3); });
+  expr::ResumeNext([&] { moveY_ = expr::RoundTo(-(centerY_ - height / 2) / zoom_, 3); });
 }
 
 }  // namespace velmora::graph

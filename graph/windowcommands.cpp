@@ -33,44 +33,55 @@ void WindowCommands::RepaintPaper() {
   w_.DrawLines();
 }
 
-bool WindowCommands::mnuBojeBack() {
-  std::uint32_t colour = w_.pDraw().BackColor();
-  if (!ChooseColour(colour)) return false;
-  w_.pDraw().SetBackColor(colour);
-  RepaintPaper();
-  return true;
+Colour WindowCommands::CurrentColour(ColourEntry entry) const {
+  switch (entry) {
+    case ColourEntry::Background: return w_.pDraw().BackColor();
+    case ColourEntry::Grid: return w_.Pen().GridColor();
+    case ColourEntry::Axes: return w_.Pen().AxesColor();
+    // The dialog starts from the chosen colour, not from a random one.
+    case ColourEntry::Graph: return w_.Pen().lblBoja();
+    case ColourEntry::Default: break;
+  }
+  return 0;
 }
 
-bool WindowCommands::mnuBojeGrid() {
-  std::uint32_t colour = w_.Pen().GridColor();
-  if (!ChooseColour(colour)) return false;
-  w_.SetGridColor(colour);
-  RepaintPaper();
-  return true;
+void WindowCommands::SetColour(ColourEntry entry, Colour colour) {
+  switch (entry) {
+    case ColourEntry::Background:
+      w_.pDraw().SetBackColor(colour);
+      RepaintPaper();
+      break;
+    case ColourEntry::Grid:
+      w_.SetGridColor(colour);
+      RepaintPaper();
+      break;
+    case ColourEntry::Axes:
+      w_.SetAxesColor(colour);
+      RepaintPaper();
+      break;
+    case ColourEntry::Graph: w_.ChooseGraphColour(colour); break;
+    case ColourEntry::Default: mnuBojeDef(); break;
+  }
 }
 
-bool WindowCommands::mnuBojeAxes() {
-  std::uint32_t colour = w_.Pen().AxesColor();
-  if (!ChooseColour(colour)) return false;
-  w_.SetAxesColor(colour);
-  RepaintPaper();
-  return true;
-}
+bool WindowCommands::mnuBojeBack() { return AskColour(ColourEntry::Background); }
+bool WindowCommands::mnuBojeGrid() { return AskColour(ColourEntry::Grid); }
+bool WindowCommands::mnuBojeAxes() { return AskColour(ColourEntry::Axes); }
+bool WindowCommands::mnuBojeGraph() { return AskColour(ColourEntry::Graph); }
 
-bool WindowCommands::mnuBojeGraph() {
-  // The dialog starts from the chosen colour, not from a random one.
-  std::uint32_t colour = w_.Pen().lblBoja();
+bool WindowCommands::AskColour(ColourEntry entry) {
+  std::uint32_t colour = CurrentColour(entry);
   if (!ChooseColour(colour)) return false;
-  w_.ChooseGraphColour(colour);
+  SetColour(entry, colour);
   return true;
 }
 
 void WindowCommands::mnuBojeDef() {
   if (w_.State().Drawing()) return;
-  w_.pDraw().SetBackColor(DefaultColour("Pozadina"));
-  w_.ChooseGraphColour(DefaultColour("Grafik"));
-  w_.SetGridColor(DefaultColour("Grid"));
-  w_.SetAxesColor(DefaultColour("Ose"));
+  w_.pDraw().SetBackColor(DefaultColour(platform::keys::boje::kPozadina));
+  w_.ChooseGraphColour(DefaultColour(platform::keys::boje::kGrafik));
+  w_.SetGridColor(DefaultColour(platform::keys::boje::kGrid));
+  w_.SetAxesColor(DefaultColour(platform::keys::boje::kOse));
   RepaintPaper();
 }
 
@@ -78,27 +89,31 @@ void WindowCommands::Sacboje() {
   const auto store = [&](std::string_view key, Colour colour) {
     platform::SetRegValue(settings_, kColours, key, std::to_string(colour & 0xFFFFFF));
   };
-  store("Pozadina", w_.pDraw().BackColor());
-  store("Grafik", w_.Pen().lblBoja());
-  store("Grid", w_.Pen().GridColor());
-  store("Ose", w_.Pen().AxesColor());
+  store(platform::keys::boje::kPozadina, w_.pDraw().BackColor());
+  store(platform::keys::boje::kGrafik, w_.Pen().lblBoja());
+  store(platform::keys::boje::kGrid, w_.Pen().GridColor());
+  store(platform::keys::boje::kOse, w_.Pen().AxesColor());
 }
 
 void WindowCommands::ColourMenu(ColourEntry entry) {
   if (w_.State().Drawing()) return;
+  if (entry == ColourEntry::Default) {
+    ApplyColour(entry);
+    return;
+  }
+  // Zezaj stands while the dialog is open, as through the whole command.
   w_.SetZezaj(true);
-  bool changed = true;
-  switch (entry) {
-    case ColourEntry::Background: changed = mnuBojeBack(); break;
-    case ColourEntry::Grid: changed = mnuBojeGrid(); break;
-    case ColourEntry::Axes: changed = mnuBojeAxes(); break;
-    case ColourEntry::Graph: changed = mnuBojeGraph(); break;
-    case ColourEntry::Default: mnuBojeDef(); break;
-  }
-  if (changed) {
-    Sacboje();
-    if (w_.State().KolkoFunkc() > 0) w_.RedrawFunc();
-  }
+  std::uint32_t colour = CurrentColour(entry);
+  if (ChooseColour(colour)) ApplyColour(entry, colour);
+  w_.SetZezaj(false);
+}
+
+void WindowCommands::ApplyColour(ColourEntry entry, Colour colour) {
+  if (w_.State().Drawing()) return;
+  w_.SetZezaj(true);
+  SetColour(entry, colour & 0xFFFFFF);
+  Sacboje();
+  if (w_.State().KolkoFunkc() > 0) w_.RedrawFunc();
   w_.SetZezaj(false);
 }
 
@@ -111,6 +126,11 @@ void WindowCommands::ClearAll() {
                                        platform::MsgIcon::Question, platform::MsgButtons::YesNo);
     if (answer != platform::MsgResult::Yes) return;
   }
+  ApplyClearAll();
+}
+
+void WindowCommands::ApplyClearAll() {
+  if (w_.State().Drawing()) return;
   w_.ClearGraph(true);
 }
 
@@ -127,12 +147,18 @@ void WindowCommands::mnuclhistory() {
       messages_.Show(std::string(kClearHistoryQuestion), std::string(GraphWindow::kDefaultTitle),
                      platform::MsgIcon::Question, platform::MsgButtons::YesNo);
   if (answer != platform::MsgResult::Yes) return;
+  ApplyClearHistory();
+}
+
+void WindowCommands::ApplyClearHistory() {
+  if (w_.State().Drawing()) return;
   if (history_ != nullptr) history_->Clear();
   w_.ClearHistoryView();
 }
 
 bool WindowCommands::AskBeforeErasing() {
-  if (w_.State().KolkoFunkc() > 0 && platform::ReadSettingNumber(settings_, "Grid", "Autored") == 0) {
+  if (w_.State().KolkoFunkc() > 0 &&
+      ReadSettingNumber(settings_, platform::keys::kGrid, platform::keys::grid::kAutored) == 0) {
     const auto answer = messages_.Show(std::string(kClearGridQuestion), std::string(kClearGridTitle),
                                        platform::MsgIcon::None, platform::MsgButtons::OkCancel);
     if (answer != platform::MsgResult::Ok) return false;
@@ -142,16 +168,28 @@ bool WindowCommands::AskBeforeErasing() {
 
 void WindowCommands::ClearGrid() {
   if (w_.State().Drawing() || !AskBeforeErasing()) return;
+  ApplyClearGrid();
+}
+
+void WindowCommands::ApplyClearGrid() {
+  if (w_.State().Drawing()) return;
   w_.Clearwith();
-  if (ReadSettingNumber(settings_, platform::keys::kGrid, platform::keys::grid::kAutored) == 1)
-    w_.RedrawFunc();
+  if (AutoRedraw()) w_.RedrawFunc();
 }
 
 void WindowCommands::RedrawGrid() {
   if (w_.State().Drawing() || !AskBeforeErasing()) return;
+  ApplyRedrawGrid();
+}
+
+void WindowCommands::ApplyRedrawGrid() {
+  if (w_.State().Drawing()) return;
   w_.Redraw();
-  if (ReadSettingNumber(settings_, platform::keys::kGrid, platform::keys::grid::kAutored) == 1)
-    w_.RedrawFunc();
+  if (AutoRedraw()) w_.RedrawFunc();
+}
+
+bool WindowCommands::AutoRedraw() {
+  return ReadSettingNumber(settings_, platform::keys::kGrid, platform::keys::grid::kAutored) == 1;
 }
 
 void WindowCommands::ClearFju() {
@@ -159,6 +197,11 @@ void WindowCommands::ClearFju() {
   const auto answer = messages_.Show(std::string(kClearFunctionQuestion), std::string(kClearFunctionTitle),
                                      platform::MsgIcon::None, platform::MsgButtons::OkCancel);
   if (answer != platform::MsgResult::Ok) return;
+  ApplyClearFju();
+}
+
+void WindowCommands::ApplyClearFju() {
+  if (w_.State().Drawing()) return;
   w_.ClearFunctionText();
 }
 

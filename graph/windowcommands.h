@@ -5,6 +5,7 @@
 #include <string_view>
 
 #include "graph/historylog.h"
+#include "graph/surface.h"
 #include "platform/colordialog.h"
 #include "platform/filedialog.h"
 #include "platform/messagebox.h"
@@ -62,26 +63,39 @@ class WindowCommands {
   void mnuBojeDef();
   // Writes the four colours to the section Boje.
   void Sacboje();
-  // The whole Color menu command: Zezaj set while it runs, the routine,
-  // Sacboje when a colour changed, and the functions drawn again (RedrawFunc)
-  // when the window holds any.
+  // The whole Color menu command: asks for the colour (the colour dialog;
+  // Default asks nothing) and hands a chosen one to ApplyColour.
   void ColourMenu(ColourEntry entry);
+  // The Color menu command after its answer, for callers that know the
+  // colour already (the catalogue, the cli): Zezaj set while it runs, the
+  // colour set as the routine sets it, Sacboje, and the functions drawn
+  // again (RedrawFunc) when the window holds any. Default takes the first
+  // start's four colours and ignores `colour`. Nothing while the window draws.
+  void ApplyColour(ColourEntry entry, Colour colour = 0);
 
   // ---- Edit menu -----------------------------------------------------------------
+  // Each command that asks has an Apply function: what the command does once
+  // the answer is yes, callable without the question. The Apply functions do
+  // nothing while the window draws.
   // "Clear &All": with functions drawn, asks first; the whole window is cleared.
   void ClearAll();
+  void ApplyClearAll();
   // "Clear &Screen": the picture and the paper again, the lists stay.
   void ClearScreen();
   // "Clear &History": asks, then empties GraphLog.txt and the window's copy.
   void mnuclhistory();
+  void ApplyClearHistory();
   // "Clear &Grid": asks when functions would be lost (AutoRedraw off), clears
   // the surface, and draws the functions again when AutoRedraw is on.
   void ClearGrid();
+  void ApplyClearGrid();
   // "&Redraw Grid": the same question, the paper over the picture, the
   // functions again when AutoRedraw is on.
   void RedrawGrid();
+  void ApplyRedrawGrid();
   // The toolbar's "ClearF": asks, then empties the function box.
   void ClearFju();
+  void ApplyClearFju();
   // "S&wap Y - X": exchanges the texts of txtY and txtX.
   void SwapYX();
 
@@ -97,6 +111,15 @@ class WindowCommands {
 
  private:
   bool ChooseColour(std::uint32_t& colour);
+  // The colour a Color menu entry changes, as the window holds it now.
+  Colour CurrentColour(ColourEntry entry) const;
+  // Sets one colour as its routine does: the paper repainted for the
+  // background, grid and axes, the pen's colour for the graph.
+  void SetColour(ColourEntry entry, Colour colour);
+  // The dialog on the colour in use, then the colour set; true when chosen.
+  bool AskColour(ColourEntry entry);
+  // The setting Autored: the functions come back after the paper changes.
+  bool AutoRedraw();
   void RepaintPaper();
   bool AskBeforeErasing();
 

@@ -115,6 +115,15 @@ FrmFunc::FrmFunc(FrmFuncServices services, QWidget* parent)
 }
 
 FrmFunc::~FrmFunc() {
+  // The child widgets are destroyed after this body, by QWidget's own
+  // destructor. Taking them down moves the focus out of the function box,
+  // which then reports the end of its editing (activated on a text of its
+  // list, a focus event): none of that may reach this window once its logic
+  // is gone, so the children are cut off from it first.
+  for (QObject* child : findChildren<QObject*>()) {
+    child->removeEventFilter(this);
+    QObject::disconnect(child, nullptr, this, nullptr);
+  }
   // The logic reaches the widgets through the host until it is gone.
   commands_.reset();
   readout_.reset();
@@ -269,6 +278,7 @@ void FrmFunc::ConnectWidgets() {
 }
 
 bool FrmFunc::eventFilter(QObject* watched, QEvent* event) {
+  if (!logic_) return QWidget::eventFilter(watched, event);
   QAbstractItemView* list = txtY_->view();
   if ((watched == list || watched == list->viewport()) && list->isVisible()) {
     // The box takes Enter for a choice already at its shortcut override.
@@ -504,7 +514,7 @@ void FrmFunc::TypeClicked(int index) {
 }
 
 void FrmFunc::ListPicked(int index) {
-  if (syncing_ || index < 0) return;
+  if (syncing_ || index < 0 || !logic_) return;
   if (logic_->State().Drawing()) {
     SyncFromLogic();
     return;

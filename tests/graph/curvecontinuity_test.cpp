@@ -19,6 +19,8 @@
 #include "tests/support/scriptedinputbox.h"
 
 namespace velmora::graph_qt {
+
+namespace keys = platform::keys;
 namespace {
 
 constexpr graph::Colour kCurve = 0x0000FF;  // pure red: neither grid, axes nor paper
@@ -106,7 +108,7 @@ TEST_P(CurveContinuity, EveryDrawnSegmentLeavesConnectedPixels) {
   HeadlessGui gui;
   QImageSurface surface(600, 400);
   platform::MemorySettingsStore settings;
-  platform::SetRegValue(settings, "Boje", "Grafik", std::to_string(kCurve));
+  platform::SetRegValue(settings, keys::kBoje, keys::boje::kGrafik, std::to_string(kCurve));
   testing::RecordingMessageBox messages;
   testing::ScriptedInputBox input;
   PassLog log;

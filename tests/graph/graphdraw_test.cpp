@@ -9,10 +9,13 @@
 #include <vector>
 
 #include "graph/graphwindow.h"
+#include "platform/settingskeys.h"
 #include "tests/graph/windowfixture.h"
 #include "tests/support/evaluatorformula.h"
 
 namespace velmora::graph {
+
+namespace keys = platform::keys;
 namespace {
 
 using testing::EvaluatorScript;
@@ -360,7 +363,7 @@ TEST_F(DrawTest, RedrawFuncReplaysTheListOldestFirstAndWritesNothing) {
 TEST_F(DrawTest, WithAutoredOffAZoomLeavesAnEmptyPaper) {
   auto& w = Make();
   Enter("X/2");
-  f.settings.Store("Grid", "Autored", "0");
+  f.settings.Store(keys::kGrid, keys::grid::kAutored, "0");
   f.surface.ClearOps();
   w.mnuzoomin();
   w.RedrawFunc();  // as the frame does after a zoom
@@ -372,7 +375,7 @@ TEST_F(DrawTest, ClickInTheListChoosesTheTypeByKAndCmbR3) {
   auto& w = Make();
   Enter("SinK", kParametric, "CosK");
   Enter("X^2");
-  f.settings.Store("Grid", "Autored", "0");  // only the table is refilled
+  f.settings.Store(keys::kGrid, keys::grid::kAutored, "0");  // only the table is refilled
   w.SettxtY("SinK");
   w.txtY_Click();
   EXPECT_EQ(w.Boxes().optFunkcije(), kParametric);
@@ -401,7 +404,7 @@ TEST_F(DrawTest, TheTableRefusesKOutsideTheCartesianType) {
 
 TEST_F(DrawTest, RandomColoursGiveEachDrawItsOwnColour) {
   auto& w = Make();
-  f.settings.Store("Grid", "Rnd", "1");
+  f.settings.Store(keys::kGrid, keys::grid::kRnd, "1");
   Enter("X/2");
   const Colour first = w.Pen().Graph_Clr();
   EXPECT_EQ(w.lblPointtab().ForeColor, first);
@@ -419,10 +422,10 @@ TEST_F(DrawTest, RndChangedElsewhereAppliesAtTheNextDraw) {
   other.Make();
   Enter("X/2");
   EXPECT_EQ(w.Pen().Graph_Clr(), kGraph);
-  other.settings.Store("Grid", "Rnd", "1");  // another window's store: not this one
+  other.settings.Store(keys::kGrid, keys::grid::kRnd, "1");  // another window's store: not this one
   Enter("X/2");
   EXPECT_EQ(w.Pen().Graph_Clr(), kGraph);
-  f.settings.Store("Grid", "Rnd", "1");  // the shared store
+  f.settings.Store(keys::kGrid, keys::grid::kRnd, "1");  // the shared store
   Enter("X/2");
   EXPECT_NE(w.Pen().Graph_Clr(), kGraph);
 }

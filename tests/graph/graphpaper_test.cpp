@@ -6,11 +6,14 @@
 #include <string>
 #include <vector>
 
+#include "platform/settingskeys.h"
 #include "tests/support/fakesettingsstore.h"
 #include "tests/support/recordingmessagebox.h"
 #include "tests/support/recordingsurface.h"
 
 namespace velmora::graph {
+
+namespace keys = platform::keys;
 namespace {
 
 using testing::RecordingMessageBox;
@@ -23,7 +26,7 @@ constexpr Colour kAxes = 0x000080;
 struct Paper {
   explicit Paper(std::vector<std::string> fonts = {}, int w = 600, int h = 400)
       : surface(w, h, std::move(fonts)) {}
-  void Set(const char* name, const char* value) { store.Store("Grid", name, value); }
+  void Set(const char* name, const char* value) { store.Store(keys::kGrid, name, value); }
   bool Draw(double zoom = 30) {
     view.Zoom = zoom;
     return paper.DrawLines(view);

@@ -5,9 +5,12 @@
 
 #include "expr/numtext.h"
 #include "graph/graphwindow.h"
+#include "platform/settingskeys.h"
 #include "tests/graph/windowfixture.h"
 
 namespace velmora::graph {
+
+namespace keys = platform::keys;
 namespace {
 
 using testing::RecordingSurface;
@@ -182,7 +185,7 @@ class MoveTest : public ::testing::TestWithParam<MoveCase> {};
 TEST_P(MoveTest, ShiftsTheCentreInGridSteps) {
   const auto& c = GetParam();
   WindowFixture f;
-  f.settings.Store("Grid", "ScaleX", c.scaleX);
+  f.settings.Store(keys::kGrid, keys::grid::kScaleX, c.scaleX);
   auto& w = f.Make();
   f.input.Answer(std::string(c.answer));
   f.surface.ClearOps();
@@ -211,7 +214,7 @@ TEST_P(MoveTest, ShiftsTheCentreInGridSteps) {
 TEST_P(MoveTest, TheApplyIsTheMenusMoveWithoutTheQuestion) {
   const auto& c = GetParam();
   WindowFixture f;
-  f.settings.Store("Grid", "ScaleX", c.scaleX);
+  f.settings.Store(keys::kGrid, keys::grid::kScaleX, c.scaleX);
   auto& w = f.Make();
   const std::string title = c.title;
   const MoveDirection direction = title == "Moving Right"  ? MoveDirection::Right

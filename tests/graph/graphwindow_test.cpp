@@ -5,9 +5,12 @@
 #include <string>
 #include <vector>
 
+#include "platform/settingskeys.h"
 #include "tests/graph/windowfixture.h"
 
 namespace velmora::graph {
+
+namespace keys = platform::keys;
 namespace {
 
 using testing::BracketedNumber;
@@ -47,10 +50,10 @@ TEST(GraphWindowLoad, DefaultsOfANewWindow) {
 
 TEST(GraphWindowLoad, ColoursComeFromTheSettings) {
   WindowFixture f;
-  f.settings.Store("Boje", "Pozadina", "255");
-  f.settings.Store("Boje", "Grafik", "65280");
-  f.settings.Store("Boje", "Grid", "abc");  // a non-number reads 0
-  f.settings.Store("Boje", "Ose", "16711680");
+  f.settings.Store(keys::kBoje, keys::boje::kPozadina, "255");
+  f.settings.Store(keys::kBoje, keys::boje::kGrafik, "65280");
+  f.settings.Store(keys::kBoje, keys::boje::kGrid, "abc");  // a non-number reads 0
+  f.settings.Store(keys::kBoje, keys::boje::kOse, "16711680");
   auto& w = f.Make();
   EXPECT_EQ(f.surface.BackColor(), 255u);
   EXPECT_EQ(w.Pen().Graph_Clr(), 65280u);

@@ -9,10 +9,13 @@
 #include <string>
 
 #include "graph/graphwindow.h"
+#include "platform/settingskeys.h"
 #include "tests/graph/windowfixture.h"
 #include "tests/support/evaluatorformula.h"
 
 namespace velmora::graph {
+
+namespace keys = platform::keys;
 namespace {
 
 using testing::EvaluatorScript;
@@ -151,7 +154,7 @@ TEST_F(ReadoutLines, CartesianTraceShowsCrossHairsAndTheTangentMark) {
 
 TEST_F(ReadoutLines, TheHorizontalBarUsesHalfTheHeightNotTheCentre) {
   GraphWindow& w = Make(kCartesian, "2");
-  f.settings.Store("Grid", "ScaleX", "1");
+  f.settings.Store(keys::kGrid, keys::grid::kScaleX, "1");
   w.ApplyMove(MoveDirection::Down, "2");
   ASSERT_EQ(w.View().CenterY(), 260);  // the origin moved down by 2 units
   MouseReadout readout(w);
@@ -201,7 +204,7 @@ TEST_F(ReadoutLines, AnEmptyFunctionBoxLeavesTheTextOfTheMoveBefore) {
 TEST_F(ReadoutLines, AMovedCentreIsTakenOff) {
   GraphWindow& w = Make(kCartesian, "X");
   // Two steps right and one up, a step of one unit: the origin at (360, 170).
-  f.settings.Store("Grid", "ScaleX", "1");
+  f.settings.Store(keys::kGrid, keys::grid::kScaleX, "1");
   w.ApplyMove(MoveDirection::Right, "2");
   w.ApplyMove(MoveDirection::Up, "1");
   ASSERT_EQ(w.View().CenterX(), 360);

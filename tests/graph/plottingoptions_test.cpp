@@ -7,9 +7,12 @@
 #include <string>
 
 #include "graph/graphwindow.h"
+#include "platform/settingskeys.h"
 #include "tests/graph/windowfixture.h"
 
 namespace velmora::graph {
+
+namespace keys = platform::keys;
 namespace {
 
 using testing::RecordingSurface;
@@ -56,7 +59,7 @@ class LoadTest : public ::testing::TestWithParam<LoadCase> {};
 TEST_P(LoadTest, ACheckTakesTheAbsoluteValueOfItsKey) {
   const LoadCase& c = GetParam();
   velmora::testing::FakeSettingsStore settings;
-  settings.Store("Grid", c.key, c.stored);
+  settings.Store(keys::kGrid, c.key, c.stored);
   PlottingOptions o;
   o.Load(settings);
   EXPECT_EQ(o.Check(c.check), c.on);
@@ -73,8 +76,8 @@ INSTANTIATE_TEST_SUITE_P(Keys, LoadTest,
 
 TEST(PlottingOptions, StoredTextsLoadAsTheyStand) {
   velmora::testing::FakeSettingsStore settings;
-  settings.Store("Grid", "ScaleX", "0.5");
-  settings.Store("Grid", "ScaleY1", "abc");
+  settings.Store(keys::kGrid, keys::grid::kScaleX, "0.5");
+  settings.Store(keys::kGrid, keys::grid::kScaleY1, "abc");
   PlottingOptions o;
   o.Load(settings);
   EXPECT_EQ(o.texts[PlottingOptions::kTxtX], "0.5");
@@ -83,7 +86,7 @@ TEST(PlottingOptions, StoredTextsLoadAsTheyStand) {
 
 TEST(PlottingOptions, ThePaperTypeHasNoKeyAndTheHiddenChecksKeepTheirs) {
   velmora::testing::FakeSettingsStore settings;
-  settings.Store("Grid", "PolarP", "1");
+  settings.Store(keys::kGrid, keys::grid::kPolarP, "1");
   PlottingOptions o;
   o.Load(settings);
   EXPECT_EQ(o.Option2, 0);
@@ -92,7 +95,7 @@ TEST(PlottingOptions, ThePaperTypeHasNoKeyAndTheHiddenChecksKeepTheirs) {
 
 TEST(PlottingOptions, HideGridDisablesTheScaleNoteAndTicks) {
   velmora::testing::FakeSettingsStore settings;
-  settings.Store("Grid", "Axes", "1");
+  settings.Store(keys::kGrid, keys::grid::kAxes, "1");
   PlottingOptions o;
   o.Load(settings);
   EXPECT_FALSE(o.txtX1Enabled);
@@ -131,8 +134,8 @@ INSTANTIATE_TEST_SUITE_P(Types, PaperTest,
 
 TEST(PlottingOptions, ResetChangesTheControlsOnly) {
   velmora::testing::FakeSettingsStore settings;
-  settings.Store("Grid", "ScaleX", "2");
-  settings.Store("Grid", "Dash", "1");
+  settings.Store(keys::kGrid, keys::grid::kScaleX, "2");
+  settings.Store(keys::kGrid, keys::grid::kDash, "1");
   PlottingOptions o;
   o.Load(settings);
   o.Option2Click(2);
@@ -140,8 +143,8 @@ TEST(PlottingOptions, ResetChangesTheControlsOnly) {
   for (const auto& text : o.texts) EXPECT_EQ(text, "1");
   for (int n = 1; n <= PlottingOptions::kChecks; ++n) EXPECT_FALSE(o.Check(n)) << "Check" << n;
   EXPECT_EQ(o.Option2, 0);
-  EXPECT_EQ(settings.Query("Grid", "ScaleX"), std::optional<std::string>("2"));
-  EXPECT_EQ(settings.Query("Grid", "Dash"), std::optional<std::string>("1"));
+  EXPECT_EQ(settings.Query(keys::kGrid, keys::grid::kScaleX), std::optional<std::string>("2"));
+  EXPECT_EQ(settings.Query(keys::kGrid, keys::grid::kDash), std::optional<std::string>("1"));
 }
 
 class ApplyTest : public ::testing::Test {
@@ -164,7 +167,7 @@ TEST_F(ApplyTest, ResetThenApplyWritesEveryKeyAndAsksBeforeErasing) {
       {"BrojY", "0"},  {"BrojBoja", "0"}, {"Trigo", "0"},   {"Dash", "0"},    {"Ram", "0"},
   };
   for (const auto& [key, value] : kWritten)
-    EXPECT_EQ(f.settings.Query("Grid", key), std::optional<std::string>(value)) << key;
+    EXPECT_EQ(f.settings.Query(keys::kGrid, key), std::optional<std::string>(value)) << key;
   // AutoRedraw is now off: the question, then the empty paper.
   ASSERT_EQ(f.messages.Boxes().size(), 1u);
   const auto& box = f.messages.Boxes()[0];
@@ -189,7 +192,7 @@ TEST_F(ApplyTest, CancelOfTheQuestionLeavesThePicture) {
   EXPECT_EQ(f.messages.Boxes().size(), 1u);
   EXPECT_TRUE(f.surface.Ops().empty());
   // The keys are written all the same.
-  EXPECT_EQ(f.settings.Query("Grid", "Autored"), std::optional<std::string>("0"));
+  EXPECT_EQ(f.settings.Query(keys::kGrid, keys::grid::kAutored), std::optional<std::string>("0"));
 }
 
 TEST_F(ApplyTest, WithAutoRedrawTheFunctionsComeBackWithoutAQuestion) {
@@ -201,7 +204,7 @@ TEST_F(ApplyTest, WithAutoRedrawTheFunctionsComeBackWithoutAQuestion) {
   f.surface.ClearOps();
   o.Apply(f.settings, f.messages, &w);
   EXPECT_TRUE(f.messages.Boxes().empty());
-  EXPECT_EQ(f.settings.Query("Grid", "ScaleX"), std::optional<std::string>("2"));
+  EXPECT_EQ(f.settings.Query(keys::kGrid, keys::grid::kScaleX), std::optional<std::string>("2"));
   EXPECT_EQ(f.surface.Ops()[0].kind, RecordingSurface::Kind::Clear);
   // RedrawFunc replayed the list: "X" is in the box again.
   EXPECT_EQ(w.Boxes().txtY().Text, "X");
@@ -233,7 +236,7 @@ TEST(PlottingOptions, ApplyWithoutAWindowWritesTheKeysOnly) {
   o.SetCheck(6, false);
   o.Apply(settings, messages, nullptr);
   EXPECT_TRUE(messages.Boxes().empty());
-  EXPECT_EQ(settings.Query("Grid", "Autored"), std::optional<std::string>("0"));
+  EXPECT_EQ(settings.Query(keys::kGrid, keys::grid::kAutored), std::optional<std::string>("0"));
 }
 
 struct KeyCase {

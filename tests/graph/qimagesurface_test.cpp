@@ -9,10 +9,13 @@
 
 #include "graph/graphpaper.h"
 #include "graph/qt/headlessgui.h"
+#include "platform/settingskeys.h"
 #include "tests/support/fakesettingsstore.h"
 #include "tests/support/recordingmessagebox.h"
 
 namespace velmora::graph_qt {
+
+namespace keys = platform::keys;
 namespace {
 
 using graph::Colour;
@@ -151,8 +154,8 @@ TEST(QImageSurface, AssignedAxesGetArrowHeadsAndNoMessage) {
   s.SetBackColor(0xFFFFFF);
   s.Clear();
   velmora::testing::FakeSettingsStore settings;
-  settings.Store("Grid", "Ozna", "1");
-  settings.Store("Grid", "Axes", "1");
+  settings.Store(keys::kGrid, keys::grid::kOzna, "1");
+  settings.Store(keys::kGrid, keys::grid::kAxes, "1");
   testing::RecordingMessageBox messages;
   graph::GraphPaper paper(s, settings, messages);
   graph::PaperView view{30, 100, 50, 0xBFBFBF, 0};

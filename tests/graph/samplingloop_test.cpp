@@ -7,9 +7,12 @@
 #include <limits>
 #include <vector>
 
+#include "platform/settingskeys.h"
 #include "tests/graph/windowfixture.h"
 
 namespace velmora::graph {
+
+namespace keys = platform::keys;
 namespace {
 
 using testing::RecordingSurface;
@@ -299,7 +302,7 @@ TEST(SamplingLoop, XpocIsTakenAtTheFirstPlottedSampleInCartesianTypeOnly) {
 
 TEST(SamplingLoop, XpocTakesTheMoveOff) {
   LoopFixture f;
-  f.settings.Store("Grid", "ScaleX", "1");
+  f.settings.Store(keys::kGrid, keys::grid::kScaleX, "1");
   f.window->ApplyMove(MoveDirection::Right, "2");
   ASSERT_EQ(f.window->View().CenterX(), 360);  // moved right by 2 units
   f.surface.ClearOps();

@@ -2,9 +2,12 @@
 
 #include <gtest/gtest.h>
 
+#include "platform/settingskeys.h"
 #include "tests/support/fakesettingsstore.h"
 
 namespace velmora::graph {
+
+namespace keys = platform::keys;
 namespace {
 
 struct NumberCase {
@@ -18,8 +21,8 @@ class SettingNumberTest : public ::testing::TestWithParam<NumberCase> {};
 TEST_P(SettingNumberTest, ReadsByTheLeadingNumberParse) {
   const auto& c = GetParam();
   velmora::testing::FakeSettingsStore store;
-  if (c.stored != nullptr) store.Store("Grid", "ScaleX", c.stored);
-  EXPECT_DOUBLE_EQ(ReadSettingNumber(store, "Grid", "ScaleX"), c.expected) << c.why;
+  if (c.stored != nullptr) store.Store(keys::kGrid, keys::grid::kScaleX, c.stored);
+  EXPECT_DOUBLE_EQ(ReadSettingNumber(store, keys::kGrid, keys::grid::kScaleX), c.expected) << c.why;
 }
 
 INSTANTIATE_TEST_SUITE_P(Values, SettingNumberTest,
@@ -33,9 +36,11 @@ INSTANTIATE_TEST_SUITE_P(Values, SettingNumberTest,
 
 TEST(SettingNumber, TheReaderPicksTheDefault) {
   velmora::testing::FakeSettingsStore store;
-  EXPECT_EQ(ReadSettingNumber(store, "Grid", "BrojBoja"), 1);  // the graph window's default
-  EXPECT_EQ(ReadSettingNumber(store, "Grid", "BrojBoja", platform::SettingReader::PlottingOptions), 0);
-  EXPECT_EQ(ReadSettingNumber(store, "Boje", "Pozadina"), 0xF5F5F5);
+  EXPECT_EQ(ReadSettingNumber(store, keys::kGrid, keys::grid::kBrojBoja), 1);  // the graph window's default
+  EXPECT_EQ(
+      ReadSettingNumber(store, keys::kGrid, keys::grid::kBrojBoja, platform::SettingReader::PlottingOptions),
+      0);
+  EXPECT_EQ(ReadSettingNumber(store, keys::kBoje, keys::boje::kPozadina), 0xF5F5F5);
 }
 
 }  // namespace

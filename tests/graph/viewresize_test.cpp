@@ -4,9 +4,12 @@
 #include <gtest/gtest.h>
 
 #include "graph/graphwindow.h"
+#include "platform/settingskeys.h"
 #include "tests/graph/windowfixture.h"
 
 namespace velmora::graph {
+
+namespace keys = platform::keys;
 namespace {
 
 struct PlanCase {
@@ -72,7 +75,7 @@ TEST_P(SettleTest, RepaintsOnlyWhatCanComeBack) {
   const SettleCase& c = GetParam();
   testing::WindowFixture f;
   GraphWindow& w = f.Make();
-  f.settings.Store("Grid", "Autored", c.autored);
+  f.settings.Store(keys::kGrid, keys::grid::kAutored, c.autored);
   for (int i = 0; i < c.functions; ++i) testing::HoldFunctions(w, {"X"});
   ASSERT_EQ(w.State().KolkoFunkc(), c.functions);
   if (c.drawing) {

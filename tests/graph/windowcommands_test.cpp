@@ -9,10 +9,13 @@
 #include <string>
 
 #include "graph/graphwindow.h"
+#include "platform/settingskeys.h"
 #include "tests/graph/dialogfakes.h"
 #include "tests/graph/windowfixture.h"
 
 namespace velmora::graph {
+
+namespace keys = platform::keys;
 namespace {
 
 using platform::MsgButtons;
@@ -37,6 +40,15 @@ class CommandsTest : public ::testing::Test {
   void TearDown() override { std::filesystem::remove_all(folder_); }
 
   GraphWindow& W() { return *f.window; }
+  // A new window over a history file that holds one record: a window
+  // loads the history when it opens.
+  void WindowWithHistory() {
+    history->Append({"", " Y(X) = x"});
+    f.history = std::make_unique<HistoryLog>((folder_ / "GraphLog.txt").string());
+    f.Make();
+    commands =
+        std::make_unique<WindowCommands>(*f.window, f.settings, f.messages, &colours, &files, history.get());
+  }
   // A window that holds one function in its list.
   void OneFunction() { testing::HoldFunctions(W(), {"X"}); }
   bool Cleared() const {
@@ -69,7 +81,7 @@ TEST_P(ColourTest, TheChosenColourIsUsedAndSaved) {
   commands->ColourMenu(c.entry);
   ASSERT_EQ(colours.opened.size(), 1u);
   EXPECT_EQ(colours.opened[0], c.before);
-  EXPECT_EQ(f.settings.Query("Boje", c.key), std::optional<std::string>("65280"));
+  EXPECT_EQ(f.settings.Query(keys::kBoje, c.key), std::optional<std::string>("65280"));
   EXPECT_FALSE(W().State().Zezaj());
 }
 
@@ -113,7 +125,7 @@ TEST_F(CommandsTest, ACancelledColourChangesNothing) {
   commands->ColourMenu(WindowCommands::ColourEntry::Background);
   EXPECT_EQ(W().pDraw().BackColor(), 0xF5F5F5u);
   EXPECT_TRUE(f.surface.Ops().empty());
-  EXPECT_FALSE(f.settings.Query("Boje", "Pozadina").has_value());
+  EXPECT_FALSE(f.settings.Query(keys::kBoje, keys::boje::kPozadina).has_value());
 }
 
 TEST_F(CommandsTest, DefaultColoursComeBack) {
@@ -126,10 +138,10 @@ TEST_F(CommandsTest, DefaultColoursComeBack) {
   EXPECT_EQ(W().Pen().AxesColor(), 0u);
   EXPECT_EQ(W().Pen().Graph_Clr(), 0xC08000u);
   EXPECT_EQ(W().pDraw().BackColor(), 0xF5F5F5u);
-  EXPECT_EQ(f.settings.Query("Boje", "Grafik"), std::optional<std::string>("12615680"));
-  EXPECT_EQ(f.settings.Query("Boje", "Pozadina"), std::optional<std::string>("16119285"));
-  EXPECT_EQ(f.settings.Query("Boje", "Grid"), std::optional<std::string>("12566463"));
-  EXPECT_EQ(f.settings.Query("Boje", "Ose"), std::optional<std::string>("0"));
+  EXPECT_EQ(f.settings.Query(keys::kBoje, keys::boje::kGrafik), std::optional<std::string>("12615680"));
+  EXPECT_EQ(f.settings.Query(keys::kBoje, keys::boje::kPozadina), std::optional<std::string>("16119285"));
+  EXPECT_EQ(f.settings.Query(keys::kBoje, keys::boje::kGrid), std::optional<std::string>("12566463"));
+  EXPECT_EQ(f.settings.Query(keys::kBoje, keys::boje::kOse), std::optional<std::string>("0"));
 }
 
 TEST_F(CommandsTest, AColourMenuRedrawsTheFunctionsOfTheWindow) {
@@ -183,12 +195,7 @@ TEST_F(CommandsTest, ClearScreenKeepsTheLists) {
 }
 
 TEST_F(CommandsTest, ClearHistoryAsksThenEmptiesTheFile) {
-  history->Append({"", " Y(X) = x"});
-  // A window loads the history when it opens.
-  f.history = std::make_unique<HistoryLog>((folder_ / "GraphLog.txt").string());
-  f.Make();
-  commands =
-      std::make_unique<WindowCommands>(*f.window, f.settings, f.messages, &colours, &files, history.get());
+  WindowWithHistory();
   ASSERT_FALSE(W().rtb().empty());
   f.messages.Answer(MsgResult::No);
   commands->mnuclhistory();
@@ -204,6 +211,7 @@ TEST_F(CommandsTest, ClearHistoryAsksThenEmptiesTheFile) {
 
 struct ClearGridCase {
   const char* name;
+  bool apply;   // the apply path (ApplyClearGrid, ApplyRedrawGrid), which never asks
   bool redraw;  // "&Redraw Grid" rather than "Clear &Grid"
   const char* autored;
   bool functions;
@@ -216,27 +224,36 @@ struct ClearGridCase {
 
 const ClearGridCase kClearGridCases[] = {
     // AutoRedraw on: no question; the functions come back (without paper).
-    {"GridAutoOn", false, "1", true, false, MsgResult::Ok, true, false, true},
+    {"GridAutoOn", false, false, "1", true, false, MsgResult::Ok, true, false, true},
     // AutoRedraw off with functions: the question; Cancel stops.
-    {"GridAutoOffCancel", false, "0", true, true, MsgResult::Cancel, false, false, false},
-    {"GridAutoOffOk", false, "0", true, true, MsgResult::Ok, true, false, false},
+    {"GridAutoOffCancel", false, false, "0", true, true, MsgResult::Cancel, false, false, false},
+    {"GridAutoOffOk", false, false, "0", true, true, MsgResult::Ok, true, false, false},
     // Nothing drawn: nothing to lose, no question.
-    {"GridAutoOffEmpty", false, "0", false, false, MsgResult::Ok, true, false, false},
+    {"GridAutoOffEmpty", false, false, "0", false, false, MsgResult::Ok, true, false, false},
     // Redraw Grid paints the paper over the picture.
-    {"RedrawAutoOn", true, "1", true, false, MsgResult::Ok, false, true, true},
-    {"RedrawAutoOffCancel", true, "0", true, true, MsgResult::Cancel, false, false, false},
-    {"RedrawAutoOffOk", true, "0", true, true, MsgResult::Ok, false, true, false},
+    {"RedrawAutoOn", false, true, "1", true, false, MsgResult::Ok, false, true, true},
+    {"RedrawAutoOffCancel", false, true, "0", true, true, MsgResult::Cancel, false, false, false},
+    {"RedrawAutoOffOk", false, true, "0", true, true, MsgResult::Ok, false, true, false},
+    // The apply paths act as after Ok, without the question.
+    {"ApplyGridAutoOff", true, false, "0", true, false, MsgResult::Ok, true, false, false},
+    {"ApplyGridAutoOn", true, false, "1", true, false, MsgResult::Ok, true, false, true},
+    {"ApplyRedrawAutoOff", true, true, "0", true, false, MsgResult::Ok, false, true, false},
+    {"ApplyRedrawAutoOn", true, true, "1", true, false, MsgResult::Ok, false, true, true},
 };
 
 class ClearGridTest : public CommandsTest, public ::testing::WithParamInterface<ClearGridCase> {};
 
 TEST_P(ClearGridTest, AsksOnlyWhenFunctionsWouldBeLost) {
   const ClearGridCase& c = GetParam();
-  f.settings.Store("Grid", "Autored", c.autored);
+  f.settings.Store(keys::kGrid, keys::grid::kAutored, c.autored);
   if (c.functions) OneFunction();
   W().SettxtY("typed");
   if (c.asks) f.messages.Answer(c.answer);
-  if (c.redraw) {
+  if (c.apply && c.redraw) {
+    commands->ApplyRedrawGrid();
+  } else if (c.apply) {
+    commands->ApplyClearGrid();
+  } else if (c.redraw) {
     commands->RedrawGrid();
   } else {
     commands->ClearGrid();
@@ -275,6 +292,110 @@ TEST_F(CommandsTest, SwapExchangesTheTwoTexts) {
   commands->SwapYX();
   EXPECT_EQ(W().Boxes().txtY().Text, "CosK");
   EXPECT_EQ(W().Boxes().txtX().Text, "SinK");
+}
+
+// ---- Apply paths ------------------------------------------------------------------
+// What a command does once answered, called without the question: the
+// catalogue and the cli reach the commands this way.
+
+struct ApplyColourCase {
+  const char* name;
+  WindowCommands::ColourEntry entry;
+  const char* key;
+  bool paper;  // the empty paper is painted again
+};
+
+class ApplyColourTest : public CommandsTest, public ::testing::WithParamInterface<ApplyColourCase> {};
+
+TEST_P(ApplyColourTest, SetsSavesAndRedrawsWithoutTheDialog) {
+  const ApplyColourCase& c = GetParam();
+  OneFunction();
+  W().SettxtY("other");
+  commands->ApplyColour(c.entry, 0x00FF00);
+  EXPECT_TRUE(colours.opened.empty()) << "no dialog";
+  EXPECT_TRUE(f.messages.Boxes().empty());
+  EXPECT_EQ(f.settings.Query(keys::kBoje, c.key), std::optional<std::string>("65280"));
+  EXPECT_EQ(Cleared(), c.paper);
+  EXPECT_EQ(W().Boxes().txtY().Text, "X") << "the window's functions are drawn again";
+  EXPECT_FALSE(W().State().Zezaj());
+}
+
+INSTANTIATE_TEST_SUITE_P(Entries, ApplyColourTest,
+                         ::testing::Values(
+                             // The background, grid and axes colours show on the paper at once.
+                             ApplyColourCase{"Background", WindowCommands::ColourEntry::Background,
+                                             "Pozadina", true},
+                             ApplyColourCase{"Grid", WindowCommands::ColourEntry::Grid, "Grid", true},
+                             ApplyColourCase{"Axes", WindowCommands::ColourEntry::Axes, "Ose", true},
+                             // The graph colour is the pen of the next plot: the paper stays.
+                             ApplyColourCase{"Graph", WindowCommands::ColourEntry::Graph, "Grafik", false}),
+                         [](const auto& param) { return std::string(param.param.name); });
+
+TEST_F(CommandsTest, ApplyColourSetsTheColourItNames) {
+  commands->ApplyColour(WindowCommands::ColourEntry::Background, 0x112233);
+  EXPECT_EQ(W().pDraw().BackColor(), 0x112233u);
+  commands->ApplyColour(WindowCommands::ColourEntry::Grid, 0x0000FF);
+  EXPECT_EQ(W().Pen().GridColor(), 0x0000FFu);
+  commands->ApplyColour(WindowCommands::ColourEntry::Axes, 0x00FF00);
+  EXPECT_EQ(W().Pen().AxesColor(), 0x00FF00u);
+  // Only the colour's 24 bits are kept, as from the dialog.
+  commands->ApplyColour(WindowCommands::ColourEntry::Graph, 0xFF123456);
+  EXPECT_EQ(W().Pen().Graph_Clr(), 0x123456u);
+  EXPECT_EQ(f.settings.Query(keys::kBoje, keys::boje::kGrafik), std::optional<std::string>("1193046"));
+}
+
+TEST_F(CommandsTest, ApplyDefaultColourTakesTheFirstStartColours) {
+  W().SetGridColor(1);
+  W().pDraw().SetBackColor(4);
+  commands->ApplyColour(WindowCommands::ColourEntry::Default, 0x123456);  // the colour is ignored
+  EXPECT_EQ(W().Pen().GridColor(), 0xBFBFBFu);
+  EXPECT_EQ(W().pDraw().BackColor(), 0xF5F5F5u);
+  EXPECT_EQ(f.settings.Query(keys::kBoje, keys::boje::kPozadina), std::optional<std::string>("16119285"));
+}
+
+TEST_F(CommandsTest, ApplyClearAllClearsWithoutAsking) {
+  OneFunction();
+  commands->ApplyClearAll();
+  EXPECT_TRUE(f.messages.Boxes().empty());
+  EXPECT_EQ(W().State().KolkoFunkc(), 0);
+  EXPECT_TRUE(W().Boxes().txtY().List.empty());
+  EXPECT_TRUE(Cleared());
+}
+
+TEST_F(CommandsTest, ApplyClearHistoryEmptiesTheFileWithoutAsking) {
+  WindowWithHistory();
+  ASSERT_FALSE(W().rtb().empty());
+  commands->ApplyClearHistory();
+  EXPECT_TRUE(f.messages.Boxes().empty());
+  EXPECT_TRUE(W().rtb().empty());
+  EXPECT_TRUE(history->ReadAll().empty());
+}
+
+TEST_F(CommandsTest, ApplyClearFjuEmptiesTheBoxWithoutAsking) {
+  W().SettxtY("SinX");
+  commands->ApplyClearFju();
+  EXPECT_TRUE(f.messages.Boxes().empty());
+  EXPECT_TRUE(W().Boxes().txtY().Text.empty());
+}
+
+TEST_F(CommandsTest, NoApplyRunsDuringADraw) {
+  OneFunction();
+  W().SettxtY("SinK");
+  history->Append({"", " Y(X) = x"});
+  auto busy = W().Busy();
+  commands->ApplyColour(WindowCommands::ColourEntry::Background, 0x112233);
+  commands->ApplyColour(WindowCommands::ColourEntry::Default);
+  commands->ApplyClearAll();
+  commands->ApplyClearHistory();
+  commands->ApplyClearGrid();
+  commands->ApplyRedrawGrid();
+  commands->ApplyClearFju();
+  EXPECT_TRUE(f.surface.Ops().empty());
+  EXPECT_EQ(W().pDraw().BackColor(), 0xF5F5F5u);
+  EXPECT_FALSE(f.settings.Query(keys::kBoje, keys::boje::kPozadina).has_value());
+  EXPECT_EQ(W().State().KolkoFunkc(), 1);
+  EXPECT_EQ(W().Boxes().txtY().Text, "SinK");
+  EXPECT_FALSE(history->ReadAll().empty());
 }
 
 TEST_F(CommandsTest, NothingRunsDuringADraw) {
@@ -364,7 +485,7 @@ TEST_F(SaveTest, AFailedWriteIsReported) {
 
 TEST_F(CommandsTest, CopiesAreFramedWhenRamIsOn) {
   EXPECT_FALSE(commands->FrameOnCopies());
-  f.settings.Store("Grid", "Ram", "1");
+  f.settings.Store(keys::kGrid, keys::grid::kRam, "1");
   EXPECT_TRUE(commands->FrameOnCopies());
 }
 

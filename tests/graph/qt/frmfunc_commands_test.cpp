@@ -10,9 +10,12 @@
 #include <QPlainTextEdit>
 #include <QTimer>
 
+#include "platform/settingskeys.h"
 #include "tests/graph/qt/frmfuncfixture.h"
 
 namespace velmora::testing {
+
+namespace keys = platform::keys;
 namespace {
 
 using platform::MsgResult;
@@ -31,7 +34,7 @@ TEST_F(CommandsTest, ClearGridWithAutoRedrawOnRedrawsWithoutAsking) {
 }
 
 TEST_F(CommandsTest, ClearGridWithAutoRedrawOffAsksFirst) {
-  settings.Store("Grid", "Autored", "0");
+  settings.Store(keys::kGrid, keys::grid::kAutored, "0");
   Make();
   TypeAndEnter(QStringLiteral("SinX"));
   const QImage drawn = Picture();
@@ -55,7 +58,8 @@ TEST_F(CommandsTest, ABackgroundColourFromTheDialog) {
   ASSERT_EQ(colours.opened.size(), 1u);
   EXPECT_EQ(colours.opened[0], kBackColour);
   EXPECT_EQ(Picture().pixel(2, 2) & 0xFFFFFF, Rgb(0x00FF00));
-  EXPECT_EQ(settings.Query("Boje", "Pozadina"), std::optional<std::string>(std::to_string(0x00FF00)));
+  EXPECT_EQ(settings.Query(keys::kBoje, keys::boje::kPozadina),
+            std::optional<std::string>(std::to_string(0x00FF00)));
 }
 
 TEST_F(CommandsTest, TheGraphColourDrawsTheNextCurve) {
@@ -160,7 +164,7 @@ TEST_F(CommandsTest, CopyGraphPutsThePictureOnTheClipboard) {
   const QImage copied = QGuiApplication::clipboard()->image();
   EXPECT_EQ(copied.convertToFormat(QImage::Format_RGB32), Picture().convertToFormat(QImage::Format_RGB32));
   // With the frame option the copy has a border; the picture does not.
-  settings.Store("Grid", "Ram", "1");
+  settings.Store(keys::kGrid, keys::grid::kRam, "1");
   window->Kopirajgraf();
   const QImage framed = QGuiApplication::clipboard()->image();
   EXPECT_EQ(framed.pixel(0, 100) & 0xFFFFFF, 0u);
@@ -229,7 +233,7 @@ TEST_F(CommandsTest, AnEmptyWindowFollowsItsSizeAtOnce) {
 }
 
 TEST_F(CommandsTest, WithAutoRedrawOffAResizeKeepsTheCurves) {
-  settings.Store("Grid", "Autored", "0");
+  settings.Store(keys::kGrid, keys::grid::kAutored, "0");
   Make();
   TypeAndEnter(QStringLiteral("1"));
   window->pDraw()->setFixedSize(800, 600);

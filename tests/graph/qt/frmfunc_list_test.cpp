@@ -150,5 +150,24 @@ TEST_F(ListTest, ArrowKeysStepThroughTheListWithoutDrawing) {
   EXPECT_EQ(Logic().Boxes().txtY().Text, "SinX");
 }
 
+// Destroying the window takes the focus from the box, and the box then
+// reports the end of editing on a text of its list (activated, focus-out)
+// while the window's parts are going: nothing may reach the window's logic
+// by then.
+TEST_F(ListTest, DeletingTheWindowWhileTheBoxHasTheFocusIsQuiet) {
+  DrawSinThenPolarCos();
+  QLineEdit* edit = EditY();
+  edit->setFocus(Qt::OtherFocusReason);
+  ASSERT_TRUE(edit->hasFocus());
+  // An edit that ends on the list's text: the box will report it as chosen.
+  QTest::keyClick(edit, Qt::Key_Backspace);
+  QTest::keyClicks(edit, QStringLiteral("X"));
+  ASSERT_EQ(edit->text(), QStringLiteral("CosX"));
+  ASSERT_EQ(window->txtY()->count(), 2);
+  window.reset();
+  QApplication::processEvents();
+  EXPECT_TRUE(messages.Boxes().empty());
+}
+
 }  // namespace
 }  // namespace velmora::testing

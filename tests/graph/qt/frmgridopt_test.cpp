@@ -10,17 +10,20 @@
 #include <QTimer>
 
 #include "graph/qt/paperpreview.h"
+#include "platform/settingskeys.h"
 #include "tests/graph/qt/frmfuncfixture.h"
 
 namespace velmora::testing {
+
+namespace keys = platform::keys;
 namespace {
 
 using platform::MsgResult;
 using OptionsTest = FrmFuncTest;
 
 TEST_F(OptionsTest, TheDialogShowsTheStoredKeys) {
-  settings.Store("Grid", "ScaleX", "2");
-  settings.Store("Grid", "Axes", "1");
+  settings.Store(keys::kGrid, keys::grid::kScaleX, "2");
+  settings.Store(keys::kGrid, keys::grid::kAxes, "1");
   Make();
   graph_qt::FrmGridOpt* dialog = window->OpenPlottingOptions();
   ASSERT_NE(dialog, nullptr);
@@ -39,7 +42,7 @@ TEST_F(OptionsTest, TheDialogShowsTheStoredKeys) {
   EXPECT_EQ(dialog->Command2()->text(), QStringLiteral("Cancel"));
   EXPECT_EQ(dialog->Command3()->text(), QStringLiteral("&Reset"));
   dialog->Command2()->click();
-  EXPECT_FALSE(settings.Query("Grid", "Dash").has_value()) << "Cancel writes nothing";
+  EXPECT_FALSE(settings.Query(keys::kGrid, keys::grid::kDash).has_value()) << "Cancel writes nothing";
 }
 
 TEST_F(OptionsTest, HideGridEnablesAndDisables) {
@@ -58,7 +61,7 @@ TEST_F(OptionsTest, ResetThenApplyWritesTheKeysAndAsksBeforeErasing) {
   graph_qt::FrmGridOpt* dialog = window->OpenPlottingOptions();
   dialog->Command3()->click();
   EXPECT_FALSE(dialog->Check(6)->isChecked());
-  EXPECT_EQ(settings.Query("Grid", "Autored"), std::nullopt) << "Reset writes nothing";
+  EXPECT_EQ(settings.Query(keys::kGrid, keys::grid::kAutored), std::nullopt) << "Reset writes nothing";
   messages.Answer(MsgResult::Ok);
   dialog->Command1()->click();
   ASSERT_EQ(messages.Boxes().size(), 1u);
@@ -67,9 +70,9 @@ TEST_F(OptionsTest, ResetThenApplyWritesTheKeysAndAsksBeforeErasing) {
   EXPECT_EQ(messages.Boxes()[0].title, "Plotting Options");
   for (const char* key : {"Axes", "Ozna", "Crte", "Skala", "Rnd", "Autored", "PolarP", "BrojX", "BrojY",
                           "BrojBoja", "Trigo", "Dash", "Ram"})
-    EXPECT_EQ(settings.Query("Grid", key), std::optional<std::string>("0")) << key;
+    EXPECT_EQ(settings.Query(keys::kGrid, key), std::optional<std::string>("0")) << key;
   for (const char* key : {"ScaleX", "ScaleY", "ScaleX1", "ScaleY1"})
-    EXPECT_EQ(settings.Query("Grid", key), std::optional<std::string>("1")) << key;
+    EXPECT_EQ(settings.Query(keys::kGrid, key), std::optional<std::string>("1")) << key;
   // Erased: the paper alone.
   EXPECT_EQ(CountPixels(Picture(), kGraphColour), 0);
   EXPECT_GT(CountPixels(Picture(), kGridColour), 1000);
@@ -83,7 +86,7 @@ TEST_F(OptionsTest, ApplyWithAutoRedrawRepaintsThePaperAndTheFunctions) {
   EXPECT_TRUE(dialog->Model().Check(7));
   dialog->Command1()->click();
   EXPECT_TRUE(messages.Boxes().empty());
-  EXPECT_EQ(settings.Query("Grid", "PolarP"), std::optional<std::string>("1"));
+  EXPECT_EQ(settings.Query(keys::kGrid, keys::grid::kPolarP), std::optional<std::string>("1"));
   EXPECT_GT(CountPixels(Picture(), kGraphColour), 500);
   // A circle of the polar paper: 2 units right of the origin on the X axis
   // and 2 units up on the Y axis are both grid-coloured.
