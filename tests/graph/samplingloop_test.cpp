@@ -254,7 +254,7 @@ TEST(SamplingLoop, TheTextOfYDecidesTheInvisiblePen) {
 
 TEST(SamplingLoop, OffTheSurfaceTheLineGoesToTheFirstPointOutThenThePenTravelsUnseen) {
   LoopFixture f;  // 400 high at zoom 30: Y beyond 6.67 is above the top
-  // 1, 1, 20, 20, 1, 1
+  // Two samples inside, two far above the top, two inside again.
   const double values[] = {1, 1, 20, 20, 1, 1};
   int i = 0;
   ScriptStrategy s([&](double) { return i < 6 ? values[i++] : 1.0; });
