@@ -5,7 +5,6 @@
 #include "app/command.h"
 #include "app/graphchild.h"
 #include "graph/examplecatalogue.h"
-#include "platform/settingsstore.h"
 
 namespace velmora::app {
 
@@ -13,11 +12,10 @@ namespace velmora::app {
 // active child (null when there is none, and then does nothing) and calls
 // the window's routines by name; the frame ends every command with
 // UpdateStatus(). A command that would touch the surface does nothing while
-// the window is drawing.
+// the window is drawing. They hold no state: everything they change is the
+// window's.
 class FrameCommands {
  public:
-  explicit FrameCommands(platform::SettingsStore& settings) : settings_(settings) {}
-
   // Runs one of the window commands of the menus and toolbars. Returns false
   // for a command that is not a window command (New, Exit, the tools ...).
   bool Run(Command command, GraphChild* child);
@@ -31,9 +29,6 @@ class FrameCommands {
   void DrawRecent(std::string_view line, GraphChild* child);
   // An entry of the Examples menu.
   void LoadExample(const graph::Example& example, GraphChild* child);
-
- private:
-  platform::SettingsStore& settings_;
 };
 
 }  // namespace velmora::app

@@ -49,8 +49,7 @@ FrmMain::FrmMain(FrameServices services, QWidget* parent)
       services_(std::move(services)),
       history_(HistoryPath(services_.historyPath)),
       recent_(*services_.settings, platform::RecentList::kFunctions),
-      windows_(*services_.messages, *this),
-      commands_(*services_.settings) {
+      windows_(*services_.messages, *this) {
   BuildFrame();
 }
 

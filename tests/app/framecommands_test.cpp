@@ -63,14 +63,14 @@ class FakeChild final : public GraphChild {
 
 struct Fixture {
   FakeChild child;
-  FrameCommands commands{child.settings};
+  FrameCommands commands;
 };
 
 TEST(FrameCommands, WithNoActiveWindowEveryWindowCommandDoesNothing) {
-  // The commands hold nothing but the settings store, and the child is not
-  // given to them: the store is where a command that went on without a
-  // window would leave a trace (the examples read and write it, the
-  // views read AutoRedraw).
+  // The commands hold no state, and the child is not given to them: its
+  // settings store is where a command that went on without a window would
+  // leave a trace (the examples read and write it, the views read
+  // AutoRedraw).
   Fixture f;
   const int reads = f.child.settings.Reads();
   const int writes = f.child.settings.Writes();
