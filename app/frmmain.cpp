@@ -23,6 +23,8 @@
 #include "app/tilegrid.h"
 #include "app/toolbarlayout.h"
 #include "app/toolicons.h"
+#include "app/toolregistry.h"
+#include "app/toolwindowhost.h"
 #include "graph/examplecatalogue.h"
 #include "graph/qt/frmfunc.h"
 
@@ -49,7 +51,9 @@ FrmMain::FrmMain(FrameServices services, QWidget* parent)
       services_(std::move(services)),
       history_(HistoryPath(services_.historyPath)),
       recent_(*services_.settings, platform::RecentList::kFunctions),
-      windows_(*services_.messages, *this) {
+      windows_(*services_.messages, *this),
+      tools_(std::make_unique<ToolWindowHost>(this)) {
+  RegisterToolWindows(*tools_, services_);
   BuildFrame();
 }
 
@@ -132,6 +136,18 @@ void FrmMain::Run(Command command) {
       break;
     case Command::HelpWeb: OpenHelp(services_.readMePath); break;
     case Command::About: About(); break;
+    case Command::ToolEvaluator: tools_->Show(platform::ToolWindow::Evaluator); break;
+    case Command::ToolPointEvaluate: tools_->Show(platform::ToolWindow::PointEvaluate); break;
+    case Command::ToolIntegrate: tools_->Show(platform::ToolWindow::Integrate); break;
+    case Command::ToolCriticalPoints: tools_->Show(platform::ToolWindow::CriticalPoints); break;
+    case Command::ToolZeros: tools_->Show(platform::ToolWindow::Zeros); break;
+    case Command::ToolIntersection: tools_->Show(platform::ToolWindow::Intersection); break;
+    case Command::ToolValueTables: tools_->Show(platform::ToolWindow::ValueTables); break;
+    case Command::ToolComplex: tools_->Show(platform::ToolWindow::Complex); break;
+    case Command::ToolGeometry: tools_->Show(platform::ToolWindow::Geometry); break;
+    case Command::ToolMatrix: tools_->Show(platform::ToolWindow::Matrix); break;
+    case Command::ToolConverter: tools_->Show(platform::ToolWindow::Converter); break;
+    case Command::ToolMathPad: tools_->Show(platform::ToolWindow::MathPad); break;
     default: {
       graph_qt::FrmFunc* active = ActiveGraphWindow();
       if (active == nullptr) {
@@ -207,6 +223,7 @@ void FrmMain::CreateGraphWindow(const std::string& caption) {
   services.history = &history_;
   services.activeWindow = this;
   services.frame = this;
+  services.tools = tools_.get();
   auto* window = new graph_qt::FrmFunc(services);
   // Below its comfortable size the window still works (its controls then
   // overlap), so that Window > Tile can fit twenty windows into the area.

@@ -38,6 +38,7 @@ namespace velmora::app {
 class FrameMenus;
 class FrameStatusBar;
 class FrameToolbars;
+class ToolWindowHost;
 
 // The platform services of the frame and its graph windows. All must
 // outlive the frame.
@@ -102,6 +103,8 @@ class FrmMain final : public QMainWindow,
   FrameToolbars& Bars() const { return *toolbars_; }
   FrameStatusBar& Status() const { return *status_; }
   QMdiArea* Area() const { return area_; }
+  // The tool windows (MathPad, the calculators, the analysis tools).
+  ToolWindowHost& Tools() const { return *tools_; }
 
   // ---- graph_qt::FrameLink ------------------------------------------------------
   void UpdateStatus() override;
@@ -146,6 +149,7 @@ class FrmMain final : public QMainWindow,
   FrameMenus* menus_ = nullptr;
   FrameToolbars* toolbars_ = nullptr;
   FrameStatusBar* status_ = nullptr;
+  std::unique_ptr<ToolWindowHost> tools_;
   // The graph windows in the order they were made, with their tags.
   struct Child {
     QPointer<graph_qt::FrmFunc> window;

@@ -19,6 +19,7 @@
 #include "platform/messagebox.h"
 #include "platform/recentlist.h"
 #include "platform/settingsstore.h"
+#include "platform/toolwindows.h"
 
 class QComboBox;
 class QLabel;
@@ -51,6 +52,7 @@ struct FrmFuncServices {
   const graph::HistoryLog* history = nullptr;   // null: no history file (rtb stays empty)
   expr::ActiveWindow* activeWindow = nullptr;   // null: the window is its own active child
   FrameLink* frame = nullptr;                   // null: a lone window (tests, tools)
+  platform::ToolWindows* tools = nullptr;       // null: no MathPad or other tool to hand to
   // Milliseconds of a monotonic clock, read by the screen-rate repaints of
   // a draw; empty: the steady clock. Tests drive it by hand.
   std::function<std::int64_t()> clockMs;
