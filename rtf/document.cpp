@@ -33,6 +33,8 @@ Document FromPlainText(const std::string& text, const CharFormat& format) {
     const std::size_t end = text.find('\n', start);
     std::string line = text.substr(start, end == std::string::npos ? std::string::npos : end - start);
     if (!line.empty() && line.back() == '\r') line.pop_back();
+    // Control characters other than tabs are no text in a document.
+    std::erase_if(line, [](char c) { return static_cast<unsigned char>(c) < 0x20 && c != '\t'; });
     Paragraph paragraph;
     AppendText(paragraph, format, line);
     document.paragraphs.push_back(std::move(paragraph));

@@ -82,7 +82,8 @@ void AppendText(Paragraph& paragraph, const CharFormat& format, const std::strin
 std::string PlainText(const Document& document);
 
 // A document of plain paragraphs in the default format, one per line of
-// `text` (lines end in LF or CR LF).
+// `text` (lines end in LF or CR LF); control characters other than tabs
+// are left out.
 Document FromPlainText(const std::string& text, const CharFormat& format = {});
 
 }  // namespace velmora::rtf

@@ -151,7 +151,8 @@ void Reader::TextByte(unsigned char byte) {
     return;
   }
   highSurrogate_ = 0;
-  TextChar(FromCp1252(byte));
+  // Control characters are no text; tabs and breaks come as words.
+  if (byte >= 0x20) TextChar(FromCp1252(byte));
 }
 
 void Reader::OpenGroup() {
@@ -188,9 +189,11 @@ bool Reader::CloseGroup() {
 void Reader::EndPicture() {
   if (picture_.known && !picture_.picture.data.empty()) {
     Picture picture = std::move(picture_.picture);
-    picture.widthTwips = static_cast<int>(static_cast<long long>(picture.widthTwips) * picture_.scaleX / 100);
-    picture.heightTwips =
-        static_cast<int>(static_cast<long long>(picture.heightTwips) * picture_.scaleY / 100);
+    const auto scaled = [](int twips, int percent) {
+      return static_cast<int>(std::min<long long>(static_cast<long long>(twips) * percent / 100, INT_MAX));
+    };
+    picture.widthTwips = scaled(picture.widthTwips, picture_.scaleX);
+    picture.heightTwips = scaled(picture.heightTwips, picture_.scaleY);
     FlushText();
     paragraph_.runs.push_back(Run{pictureFormat_, {}, std::move(picture)});
   }
