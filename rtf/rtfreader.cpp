@@ -74,6 +74,9 @@ class Reader {
   Paragraph paragraph_;
   Alignment alignment_ = Alignment::Left;
   bool bullet_ = false;
+  // Whether anything of a paragraph came after the last \par: a final \par
+  // ends the last paragraph rather than opening an empty one.
+  bool touched_ = false;
   std::string text_;
   CharFormat textFormat_;
 
@@ -102,11 +105,13 @@ void Reader::EndParagraph() {
   paragraph_.bullet = bullet_;
   document_.paragraphs.push_back(std::move(paragraph_));
   paragraph_ = Paragraph{};
+  touched_ = false;
 }
 
 void Reader::TextChar(char32_t c) {
   switch (State().dest) {
     case Dest::Text:
+      touched_ = true;
       if (!text_.empty() && !(textFormat_ == State().format)) FlushText();
       textFormat_ = State().format;
       AppendUtf8(text_, c);
@@ -196,6 +201,7 @@ void Reader::EndPicture() {
     picture.heightTwips = scaled(picture.heightTwips, picture_.scaleY);
     FlushText();
     paragraph_.runs.push_back(Run{pictureFormat_, {}, std::move(picture)});
+    touched_ = true;
   }
   picture_ = PictureInProgress{};
 }
@@ -372,6 +378,7 @@ void Reader::ControlWord(std::string_view name, bool hasParam, int param) {
     case Word::ParagraphDefault:
       alignment_ = Alignment::Left;
       bullet_ = false;
+      touched_ = true;
       break;
     case Word::AlignLeft: alignment_ = Alignment::Left; break;
     case Word::AlignCenter: alignment_ = Alignment::Center; break;
@@ -454,7 +461,7 @@ Document Reader::Read() {
     }
   }
   if (State().dest == Dest::Picture) EndPicture();
-  EndParagraph();
+  if (touched_ || document_.paragraphs.empty()) EndParagraph();
   return std::move(document_);
 }
 

@@ -28,7 +28,8 @@ struct TextCase {
 TEST(RtfReader, TextOfOtherWritersDocuments) {
   const std::vector<TextCase> cases = {
       {R"({\rtf1\ansi a\par b})", "a|b", "\\par ends a paragraph"},
-      {R"({\rtf1\ansi a\par})", "a|", "a final \\par leaves an empty last paragraph"},
+      {R"({\rtf1\ansi a\par})", "a", "a final \\par ends the last paragraph, as word processors write it"},
+      {R"({\rtf1\ansi a\par\pard})", "a|", "a paragraph begun after the last \\par stays, empty or not"},
       {R"({\rtf1\ansi {\fonttbl{\f0\fswiss Arial;}}{\colortbl;\red0\green0\blue0;}x})", "x",
        "tables are no text"},
       {R"({\rtf1{\info{\title T}{\author A}}body})", "body", "the info group is skipped"},
