@@ -6,8 +6,10 @@
 #include <QAction>
 #include <QApplication>
 #include <QCloseEvent>
+#include <QDate>
 #include <QDir>
 #include <QFileInfo>
+#include <QLocale>
 #include <QMdiArea>
 #include <QMdiSubWindow>
 #include <QMenu>
@@ -27,6 +29,7 @@
 #include "app/toolwindowhost.h"
 #include "graph/examplecatalogue.h"
 #include "graph/qt/frmfunc.h"
+#include "mathpad/historyhandover.h"
 
 #ifndef VELMORA_VERSION
 #define VELMORA_VERSION "0.1.0"
@@ -148,6 +151,11 @@ void FrmMain::Run(Command command) {
     case Command::ToolMatrix: tools_->Show(platform::ToolWindow::Matrix); break;
     case Command::ToolConverter: tools_->Show(platform::ToolWindow::Converter); break;
     case Command::ToolMathPad: tools_->Show(platform::ToolWindow::MathPad); break;
+    case Command::SaveHistory:
+      mathpad::SendHistoryToMathPad(
+          *services_.messages, *tools_, history_.ReadAll(),
+          QLocale().toString(QDate::currentDate(), QLocale::ShortFormat).toStdString());
+      break;
     default: {
       graph_qt::FrmFunc* active = ActiveGraphWindow();
       if (active == nullptr) {

@@ -36,7 +36,7 @@ constexpr std::array kFile{
     MenuItem{"mnuFile", 7, "S&wap Y - X", "", C::SwapYX, E::NeedsWindow},
     Sep("mnuFile", 8),
     MenuItem{"mnuFile", 9, "Save &Graph As", "", C::None, E::Always, K::None, 0, kSaveAs},
-    MenuItem{"mnuFile", 10, "&Save History...", "", C::SaveHistory, E::NotBuilt},
+    MenuItem{"mnuFile", 10, "&Save History...", "", C::SaveHistory, E::NeedsWindow},
     Sep("mnuFile", 11),
     MenuItem{"mnuFile", 12, "&Print", "", C::None, E::Always, K::None, 0, kPrint},
     MenuItem{"mnuFile", 13, "Print Set&up...", "", C::PrintSetup, E::NotBuilt},

@@ -28,20 +28,6 @@ FindFlags FlagsOfOptionWord(int optionWord) {
   return FindFlags{(optionWord & 2) != 0, (optionWord & 4) != 0};
 }
 
-CaretPlace CaretLineColumn(std::u16string_view text, std::size_t caret) {
-  CaretPlace place;
-  if (caret > text.size()) caret = text.size();
-  for (std::size_t i = 0; i < caret; ++i) {
-    if (text[i] == u'\n' || text[i] == u'\u2029') {
-      ++place.line;
-      place.column = 1;
-    } else {
-      ++place.column;
-    }
-  }
-  return place;
-}
-
 namespace {
 
 // Latin-1 letters change case by 0x20, except the multiplication and

@@ -29,14 +29,6 @@ struct FindFlags {
 int FindOptionWord(bool caseSensitiveBox, bool wholeWordBox);
 FindFlags FlagsOfOptionWord(int optionWord);
 
-// The caret's line and column (both from 1) in a text whose lines end in '\n'.
-struct CaretPlace {
-  int line = 1;
-  int column = 1;
-  bool operator==(const CaretPlace&) const = default;
-};
-CaretPlace CaretLineColumn(std::u16string_view text, std::size_t caret);
-
 // Change Case of the selection: ASCII and Latin letters.
 std::u16string UpperCaseText(std::u16string_view text);
 std::u16string LowerCaseText(std::u16string_view text);

@@ -168,6 +168,7 @@ TEST(MenuTable, ToolsOfLaterVersionsAreDisabledAndTheGraphCommandsNeedAWindow) {
       {"mnuFile", 1, EnableRule::NeedsWindow, Command::Close},
       {"mnuFile", 3, EnableRule::NeedsWindow, Command::DrawFunction},
       {"mnuFile", 4, EnableRule::NotBuilt, Command::DrawTangent},
+      {"mnuFile", 10, EnableRule::NeedsWindow, Command::SaveHistory},
       {"mnuFile", 13, EnableRule::NotBuilt, Command::PrintSetup},
       {"mnuFile", 15, EnableRule::Always, Command::Exit},
       {"mnubmp", -1, EnableRule::NeedsWindow, Command::SaveBmp},

@@ -58,15 +58,6 @@ TEST(PadLogic, FindBoxesActCrossed) {
   }
 }
 
-TEST(PadLogic, CaretLineAndColumn) {
-  const std::u16string text = u"ab\ncde\n";
-  EXPECT_EQ(CaretLineColumn(text, 0), (CaretPlace{1, 1}));
-  EXPECT_EQ(CaretLineColumn(text, 2), (CaretPlace{1, 3}));
-  EXPECT_EQ(CaretLineColumn(text, 3), (CaretPlace{2, 1}));
-  EXPECT_EQ(CaretLineColumn(text, 7), (CaretPlace{3, 1}));
-  EXPECT_EQ(CaretLineColumn(text, 99), (CaretPlace{3, 1})) << "beyond the end is the end";
-}
-
 TEST(PadLogic, ChangeCase) {
   EXPECT_EQ(UpperCaseText(u"sin x \u00e9\u00f7"), u"SIN X \u00c9\u00f7");
   EXPECT_EQ(LowerCaseText(u"COS X \u00c9\u00d7"), u"cos x \u00e9\u00d7");
