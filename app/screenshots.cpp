@@ -5,13 +5,19 @@
 #include <QAction>
 #include <QApplication>
 #include <QDir>
+#include <QFile>
 #include <QMdiArea>
 #include <QPixmap>
+#include <QTextEdit>
 
 #include "app/framemenus.h"
 #include "app/frmmain.h"
+#include "app/toolwindowhost.h"
 #include "graph/qt/frmfunc.h"
 #include "graph/qt/frmgridopt.h"
+#include "graph/qt/qimagesurface.h"
+#include "mathpad/qt/frmansi.h"
+#include "mathpad/qt/frmmapuskice.h"
 
 namespace velmora::app {
 namespace {
@@ -31,6 +37,65 @@ bool Save(QWidget& widget, const QDir& folder, const QString& name) {
 void Choose(FrmMain& frame, const char* array, int index) {
   if (QAction* action = frame.Menus().Action(QString::fromLatin1(array), index)) action->trigger();
   Settle();
+}
+
+// MathPad with a formatted page and the active graph inserted as a
+// picture, then its Insert Symbol window.
+int MathPadScreenshots(FrmMain& frame, const QDir& dir) {
+  const auto windows = frame.GraphWindows();
+  const QString graph = dir.filePath(QStringLiteral("mathpad-graph.png"));
+  if (windows.empty() ||
+      !windows.front()->Picture().Image().scaledToWidth(480, Qt::SmoothTransformation).save(graph)) {
+    return 2;
+  }
+  frame.Tools().Show(platform::ToolWindow::MathPad);
+  auto* pad = qobject_cast<mathpad_qt::FrmMaPuskice*>(frame.Tools().Window(platform::ToolWindow::MathPad));
+  if (pad == nullptr) return 2;
+  pad->resize(900, 760);
+  QTextEdit* editor = pad->Editor();
+  const auto type = [editor](const QString& text) { editor->textCursor().insertText(text); };
+  pad->SetAlignment(Qt::AlignHCenter);
+  pad->ToggleBold();
+  QTextCharFormat title;
+  title.setFontPointSize(16);
+  title.setForeground(QColor(0, 0, 128));
+  editor->mergeCurrentCharFormat(title);
+  type(QStringLiteral("Damped oscillations"));
+  QTextCharFormat body;
+  body.setFontPointSize(12);
+  body.setForeground(QColor(Qt::black));
+  body.setFontWeight(QFont::Normal);
+  editor->mergeCurrentCharFormat(body);
+  type(QStringLiteral("\n"));
+  pad->SetAlignment(Qt::AlignLeft);
+  type(QStringLiteral("The curve is y = e"));
+  pad->ToggleSuperscript();
+  type(QStringLiteral("-x/4"));
+  pad->ToggleSuperscript();
+  type(QStringLiteral(" \u00B7 sin 3x, with x"));
+  pad->ToggleSubscript();
+  type(QStringLiteral("0"));
+  pad->ToggleSubscript();
+  type(QStringLiteral(" = 0 and "));
+  pad->ToggleItalic();
+  type(QStringLiteral("A = 1 cm"));
+  pad->ToggleItalic();
+  type(QStringLiteral(":\n"));
+  pad->ToggleBullets();
+  type(QStringLiteral("amplitude halves every 4 ln 2 \u2248 2.77 units\nzeros at x = k\u03C0/3\n"));
+  pad->ToggleBullets();
+  pad->SetAlignment(Qt::AlignHCenter);
+  pad->InsertImageFile(graph);
+  Settle();
+  int failures = Save(*pad, dir, QStringLiteral("mathpad.png")) ? 0 : 1;
+  mathpad_qt::FrmAnsi* symbols = pad->SymbolDialog();
+  symbols->show();
+  symbols->SelectCode(177);
+  Settle();
+  if (!Save(*symbols, dir, QStringLiteral("mathpad-symbol.png"))) ++failures;
+  symbols->close();
+  QFile::remove(graph);
+  return failures;
 }
 
 }  // namespace
@@ -70,7 +135,7 @@ int TakeScreenshots(FrmMain& frame, const QString& folder) {
   if (!Save(*options, dir, QStringLiteral("options.png"))) ++failures;
   options->close();
   Settle();
-  return failures;
+  return failures + MathPadScreenshots(frame, dir);
 }
 
 }  // namespace velmora::app

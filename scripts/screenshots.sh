@@ -1,7 +1,9 @@
 #!/usr/bin/env bash
 # Runs Velmora in a virtual X server and saves PNG screenshots into
 # BUILD_DIR/screenshots: the frame with three example graph windows
-# (frame.png) and the Plotting Options dialog (options.png). The program
+# (frame.png), the Plotting Options dialog (options.png), MathPad with a
+# formatted page and a graph (mathpad.png) and its Insert Symbol window
+# (mathpad-symbol.png). The program
 # runs on fresh settings in a temporary folder, so the pictures show the
 # defaults and the user's own settings are never touched.
 set -euo pipefail

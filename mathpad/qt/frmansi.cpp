@@ -43,6 +43,8 @@ FrmAnsi::FrmAnsi(QWidget* owner) : QDialog(owner, Qt::Tool) {
   grid1_->verticalHeader()->setDefaultSectionSize(26);
   grid1_->setEditTriggers(QAbstractItemView::NoEditTriggers);
   grid1_->setSelectionMode(QAbstractItemView::SingleSelection);
+  grid1_->setHorizontalScrollBarPolicy(Qt::ScrollBarAlwaysOff);
+  grid1_->setMinimumWidth(kColumns * 26 + 2 * grid1_->frameWidth() + 20);
   picture1_ = new QLabel(this);
   picture1_->setObjectName(QStringLiteral("Picture1"));
   picture1_->setFixedSize(72, 72);
@@ -104,7 +106,7 @@ FrmAnsi::FrmAnsi(QWidget* owner) : QDialog(owner, Qt::Tool) {
     setWindowFlag(Qt::WindowStaysOnTopHint, onTop);
     show();
   });
-  resize(660, 460);
+  resize(720, 480);
 }
 
 void FrmAnsi::FillGrid() {

@@ -332,6 +332,8 @@ void FrmMaPuskice::BuildToolbar() {
   combo1_ = new QComboBox(this);
   combo1_->setObjectName(QStringLiteral("Combo1"));
   combo1_->addItems(QFontDatabase::families());
+  // Editable, so a document's font shows even when the system lacks it.
+  combo1_->setEditable(true);
   combo1_->setMaximumWidth(180);
   toolbar1_->addWidget(combo1_);
   cmbSize_ = new QComboBox(this);
@@ -388,6 +390,7 @@ FrmFind* FrmMaPuskice::FindDialog() {
 FrmAnsi* FrmMaPuskice::SymbolDialog() {
   if (ansi_.isNull()) {
     ansi_ = new FrmAnsi(this);
+    ansi_->Combo1()->setCurrentText(rtbp_->currentFont().family());
     connect(ansi_, &FrmAnsi::Insert, this, &FrmMaPuskice::InsertSymbol);
   }
   return ansi_;
