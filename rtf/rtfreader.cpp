@@ -55,6 +55,7 @@ class Reader {
   void Destination(Dest dest);
   void TextByte(unsigned char byte);
   void TextChar(char32_t c);
+  void UnicodeWord(bool hasParam, int param);
   void FlushText();
   void EndParagraph();
   void ResetFormat(CharFormat& format) const;
@@ -222,6 +223,26 @@ void Reader::SkipBinary(int count) {
   pos_ += n;
 }
 
+void Reader::UnicodeWord(bool hasParam, int param) {
+  if (!hasParam) return;
+  // A UTF-16 unit, written signed by most writers; anything else is a
+  // replacement character. Control characters are no text.
+  char32_t c = 0xFFFD;
+  if (param >= -32768 && param <= 65535) c = static_cast<char32_t>(param < 0 ? param + 65536 : param);
+  if (c < 0x20) {
+    highSurrogate_ = 0;
+  } else if (c >= 0xD800 && c <= 0xDBFF) {
+    highSurrogate_ = c;
+  } else if (c >= 0xDC00 && c <= 0xDFFF) {
+    if (highSurrogate_ != 0) TextChar(0x10000 + ((highSurrogate_ - 0xD800) << 10) + (c - 0xDC00));
+    highSurrogate_ = 0;
+  } else {
+    highSurrogate_ = 0;
+    TextChar(c);
+  }
+  skipFallback_ = State().unicodeSkip;
+}
+
 void Reader::ControlSymbol(char symbol) {
   switch (symbol) {
     case '\\':
@@ -292,6 +313,10 @@ void Reader::ControlWord(std::string_view name, bool hasParam, int param) {
         fontName_.clear();
       } else if (entry.word == Word::Bin) {
         SkipBinary(param);
+      } else if (entry.word == Word::Unicode) {
+        UnicodeWord(hasParam, param);  // font names may be Unicode too
+      } else if (entry.word == Word::UnicodeSkip) {
+        state.unicodeSkip = std::clamp(param, 0, 16);
       }
       return;
     case Dest::ColorTable:
@@ -328,26 +353,7 @@ void Reader::ControlWord(std::string_view name, bool hasParam, int param) {
     case Word::Tab:
     case Word::Cell: TextChar('\t'); break;
     case Word::Char: TextChar(entry.codePoint); break;
-    case Word::Unicode: {
-      if (!hasParam) break;
-      // A UTF-16 unit, written signed by most writers; anything else is a
-      // replacement character.
-      char32_t c = 0xFFFD;
-      if (param >= -32768 && param <= 65535) c = static_cast<char32_t>(param < 0 ? param + 65536 : param);
-      if (c < 0x20 && c != '\t') {
-        highSurrogate_ = 0;
-      } else if (c >= 0xD800 && c <= 0xDBFF) {
-        highSurrogate_ = c;
-      } else if (c >= 0xDC00 && c <= 0xDFFF) {
-        if (highSurrogate_ != 0) TextChar(0x10000 + ((highSurrogate_ - 0xD800) << 10) + (c - 0xDC00));
-        highSurrogate_ = 0;
-      } else {
-        highSurrogate_ = 0;
-        TextChar(c);
-      }
-      skipFallback_ = state.unicodeSkip;
-      break;
-    }
+    case Word::Unicode: UnicodeWord(hasParam, param); break;
     case Word::UnicodeSkip: state.unicodeSkip = std::clamp(param, 0, 16); break;
     case Word::Bin: SkipBinary(param); break;
     case Word::Plain: ResetFormat(format); break;

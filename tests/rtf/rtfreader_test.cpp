@@ -5,6 +5,8 @@
 #include <string>
 #include <vector>
 
+#include "rtf/rtfwriter.h"
+
 namespace velmora::rtf {
 namespace {
 
@@ -119,6 +121,22 @@ TEST(RtfReader, PictureSizesAndBinaryData) {
   EXPECT_EQ(picture.heightPixels, 2);
   EXPECT_EQ(picture.widthTwips, 200) << "scaled by \\picscalex";
   EXPECT_EQ(picture.heightTwips, 50);
+}
+
+}  // namespace
+}  // namespace velmora::rtf
+
+namespace velmora::rtf {
+namespace {
+
+TEST(RtfReader, UnicodeFontNames) {
+  // A font name may hold \uN with its fallback, as any text; the fuzzer
+  // found the name read back differently from how it was written.
+  const Document document = ReadRtf(R"({\rtf1{\fonttbl{\f0 Arial;}{\f1 \u945?x\u9?;}}\f1 t})");
+  ASSERT_EQ(document.paragraphs.at(0).runs.size(), 1u);
+  EXPECT_EQ(document.paragraphs[0].runs[0].format.font, "\xCE\xB1x")
+      << "the fallback skipped, no control character";
+  EXPECT_EQ(ReadRtf(WriteRtf(document)), document);
 }
 
 }  // namespace
