@@ -13,6 +13,7 @@
 #include "graph/drawstate.h"
 #include "graph/functionboxes.h"
 #include "graph/graphhost.h"
+#include "graph/graphlabel.h"
 #include "graph/graphpaper.h"
 #include "graph/graphtooltarget.h"
 #include "graph/historylog.h"
@@ -255,6 +256,33 @@ class GraphWindow final : public expr::GraphFields, public GraphToolTarget {
   // The derivative of FuncY at K = v through Evaluator1; a failure gives 0.
   double FDeriv(double v);
 
+  // ---- Labels --------------------------------------------------------------------
+  static constexpr std::string_view kLabelInHand = "Insert current label or delete it before you proceed.";
+  static constexpr std::string_view kLabelEmpty = "Enter Graph Label text.";
+  static constexpr std::string_view kLabelDragHint =
+      "Drag the Label and click right mouse to insert or delete";
+  static constexpr std::string_view kLabelAnglePrompt =
+      "Set value for rotating angle in range (-180 to 180) Deg.";
+  // `picMCRBox`: the label in hand.
+  const GraphLabel& picMCRBox() const { return label_; }
+  // `mnulabel`: refused with kLabelInHand while a label is in hand;
+  // otherwise the default text of the dialog: the function with its
+  // caption, for a parametric pair "X (K) =" X, two blanks, "Y (K) =" Y.
+  std::optional<std::string> mnulabel();
+  // `cmdLabelL`: an empty text shows kLabelEmpty and gives false; else the
+  // label is in hand over the plot, its top left at (left, top).
+  bool cmdLabelL(const LabelStyle& style, double left = 20, double top = 20);
+  // The angle asked by its input box: a number from -180 to 180, or
+  // nothing (cancelled or out of range).
+  std::optional<double> AskLabelAngle();
+  // A drag of the label by the mouse, with its hint in LblChart.
+  void DragLabel(double dx, double dy);
+  void MoveLabelTo(double left, double top) { label_.MoveTo(left, top); }
+  // `daLabele`: the label burnt into the picture where it stands, then
+  // hidden; `neLabel`: hidden, nothing drawn.
+  void daLabele();
+  void neLabel() { label_.Hide(); }
+
   // ---- Paper and clearing ---------------------------------------------------
   // `DrawLines`: the graph paper (grid, axes, numbers) over the picture.
   void DrawLines();
@@ -421,6 +449,7 @@ class GraphWindow final : public expr::GraphFields, public GraphToolTarget {
   ZoomMenu zoomMenu_;
   FractionFields fraction_;
 
+  GraphLabel label_;
   // The range and the choices of the last frmMini.
   double xMin_ = 0;
   double xMax_ = 0;

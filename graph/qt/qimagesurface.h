@@ -46,6 +46,7 @@ class QImageSurface final : public graph::BasicSurface {
 
   double TextWidth(std::string_view text) const override;
   double TextHeight(std::string_view text) const override;
+  void BurnLabel(const graph::LabelStyle& label, double left, double top, graph::Colour back) override;
 
  protected:
   void PaintClear() override;
