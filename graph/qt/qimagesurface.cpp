@@ -41,6 +41,10 @@ using qtplatform::ToQString;
 
 }  // namespace
 
+graph::Colour FromQColor(const QColor& colour) {
+  return graph::Rgb(colour.red(), colour.green(), colour.blue());
+}
+
 QColor ToQColor(graph::Colour colour) {
   return QColor(graph::RedOf(colour), graph::GreenOf(colour), graph::BlueOf(colour));
 }

@@ -80,5 +80,7 @@ class QImageSurface final : public graph::BasicSurface {
 
 // QColor of a program colour (blue in the high byte).
 QColor ToQColor(graph::Colour colour);
+// A program colour of a QColor.
+graph::Colour FromQColor(const QColor& colour);
 
 }  // namespace velmora::graph_qt

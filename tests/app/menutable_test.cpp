@@ -167,7 +167,7 @@ TEST(MenuTable, ToolsOfLaterVersionsAreDisabledAndTheGraphCommandsNeedAWindow) {
       {"mnuFile", 0, EnableRule::Always, Command::New},
       {"mnuFile", 1, EnableRule::NeedsWindow, Command::Close},
       {"mnuFile", 3, EnableRule::NeedsWindow, Command::DrawFunction},
-      {"mnuFile", 4, EnableRule::NotBuilt, Command::DrawTangent},
+      {"mnuFile", 4, EnableRule::NeedsWindow, Command::DrawTangent},
       {"mnuFile", 13, EnableRule::NotBuilt, Command::PrintSetup},
       {"mnuFile", 15, EnableRule::Always, Command::Exit},
       {"mnubmp", -1, EnableRule::NeedsWindow, Command::SaveBmp},
