@@ -102,7 +102,11 @@ bool FrmLabel::eventFilter(QObject* watched, QEvent* event) {
 void FrmLabel::AskAngle() {
   const auto angle = window_.AskLabelAngle();
   if (!angle) return;
-  angle_ = *angle;
+  SetAngle(*angle);
+}
+
+void FrmLabel::SetAngle(double degrees) {
+  angle_ = degrees;
   txtAngle_->setText(qtplatform::ToQString(expr::NumberToText(angle_)));
 }
 

@@ -45,6 +45,8 @@ class FrmLabel final : public QDialog {
   graph::LabelStyle Style() const;
   // A click on txtAngle: the angle's input box.
   void AskAngle();
+  // The angle set as an answer to that box would set it.
+  void SetAngle(double degrees);
 
  signals:
   // The label is in hand over the plot.
