@@ -3,20 +3,20 @@
 #include <cstdio>
 
 #include <QAction>
+#include <QApplication>
 #include <QCheckBox>
+#include <QDir>
 #include <QLineEdit>
+#include <QMdiArea>
 #include <QMdiSubWindow>
+#include <QPixmap>
 #include <QPushButton>
 #include <QRadioButton>
-#include <QApplication>
-#include <QDir>
-#include <QMdiArea>
-#include <QPixmap>
 
 #include "app/framemenus.h"
 #include "app/frmmain.h"
-#include "graph/qt/frmfunc.h"
 #include "graph/graphwindow.h"
+#include "graph/qt/frmfunc.h"
 #include "graph/qt/frmgridopt.h"
 #include "graph/qt/frmlabel.h"
 #include "graph/qt/frmmini.h"
@@ -55,15 +55,16 @@ int GraphToolShots(FrmMain& frame, const QDir& dir) {
   Settle();
   window->SettleSize();
   int failures = 0;
-  const auto draw = [&](const char* y) {
+  const auto draw = [&](const char* y, const char* zoom) {
     window->Logic().ClearGraph(true);
+    window->Logic().ApplyFineZoom(zoom);
     window->Logic().SetFunctionTexts(y, "K");
     window->SyncFromLogic();
     window->DrawFunction();
     Settle();
   };
 
-  draw("X^2");
+  draw("X^2", "60");
   if (graph_qt::FrmUnesit* tangent = window->mnuDrawTangent()) {
     tangent->Text1()->setText(QStringLiteral("1"));
     Settle();
@@ -73,7 +74,7 @@ int GraphToolShots(FrmMain& frame, const QDir& dir) {
   }
   if (!Save(*window, dir, QStringLiteral("tangent.png"))) ++failures;
 
-  draw("SinX");
+  draw("SinX", "90");
   if (graph_qt::FrmMini* mini = window->mnuDrawIntegral()) {
     mini->Text1()->setText(QStringLiteral("0"));
     mini->Text2()->setText(QStringLiteral("pi"));
@@ -86,14 +87,14 @@ int GraphToolShots(FrmMain& frame, const QDir& dir) {
   }
   if (!Save(*window, dir, QStringLiteral("integral.png"))) ++failures;
 
-  draw("SinX/X");
+  draw("SinX/X", "60");
   if (graph_qt::FrmLabel* label = window->mnulabel()) {
     label->SetAngle(30);
     Settle();
     label->cmdLabel()->click();
     Settle();
-    if (graph_qt::PicMcrBox* box = window->picMCRBox()) box->move(box->pos() + QPoint(260, 90));
-    window->Logic().MoveLabelTo(280, 110);
+    window->Logic().MoveLabelTo(window->Logic().View().CenterX() + 40,
+                                window->Logic().View().CenterY() - 140);
     window->daLabele();
     window->Logic().SetFunctionTexts("SinX/X", "K");
     if (graph_qt::FrmLabel* second = window->mnulabel()) {

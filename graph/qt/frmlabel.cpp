@@ -50,7 +50,8 @@ FrmLabel::FrmLabel(graph::GraphWindow& window, const std::string& text, FontChoo
   cmdBoja_->setObjectName(QStringLiteral("cmdBoja"));
   cmdBoja_->setToolTip(QStringLiteral("Click to change color"));
   cmdBoja_->setFixedSize(40, 20);
-  cmdBoja_->setStyleSheet(QStringLiteral("background-color: %1;").arg(ToQColor(colour_).name()));
+  cmdBoja_->setStyleSheet(
+      QStringLiteral("background-color: %1; border: 1px solid black;").arg(ToQColor(colour_).name()));
   txtAngle_ = new QLineEdit(QStringLiteral("0"), this);
   txtAngle_->setObjectName(QStringLiteral("txtAngle"));
   txtAngle_->setToolTip(QStringLiteral("Angle (deg)"));
@@ -119,7 +120,8 @@ void FrmLabel::ChooseColour() {
   const auto chosen = chooseColour_(colour_);
   if (!chosen) return;
   colour_ = *chosen;
-  cmdBoja_->setStyleSheet(QStringLiteral("background-color: %1;").arg(ToQColor(colour_).name()));
+  cmdBoja_->setStyleSheet(
+      QStringLiteral("background-color: %1; border: 1px solid black;").arg(ToQColor(colour_).name()));
 }
 
 graph::LabelStyle FrmLabel::Style() const {

@@ -49,8 +49,6 @@ FrmMini::FrmMini(graph::GraphWindow& window, ColourChooser choose, QWidget* pare
   shape1_ = new QPushButton(frame2_);
   shape1_->setObjectName(QStringLiteral("Shape1"));
   shape1_->setToolTip(QStringLiteral("Click to change color"));
-  shape1_->setFlat(true);
-  shape1_->setAutoFillBackground(true);
   shape1_->setFixedSize(40, 20);
   auto* average = new QFormLayout(frame2_);
   average->addRow(QStringLiteral("Value:"), text3_);
@@ -82,7 +80,8 @@ void FrmMini::ShowColour(graph::Colour colour) {
   palette.setColor(QPalette::Button, ToQColor(colour));
   palette.setColor(QPalette::Window, ToQColor(colour));
   shape1_->setPalette(palette);
-  shape1_->setStyleSheet(QStringLiteral("background-color: %1;").arg(ToQColor(colour).name()));
+  shape1_->setStyleSheet(
+      QStringLiteral("background-color: %1; border: 1px solid black;").arg(ToQColor(colour).name()));
 }
 
 void FrmMini::ChooseColour() {
