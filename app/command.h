@@ -12,6 +12,7 @@ enum class Command {
   DrawFunction,
   DrawTangent,
   DrawIntegral,
+  DrawIntegralAverage,  // the toolbar's "Integral/Average": its own refusal text
   DrawDerivative,
   SwapYX,
   SaveBmp,
@@ -83,10 +84,11 @@ enum class Command {
 
 // When a menu entry or toolbar button can be used.
 enum class EnableRule {
-  Always,       // no window needed
-  NeedsWindow,  // a graph window must be open
-  NotBuilt,     // the tool it opens is not part of this version: always disabled
-  HelpFile,     // the help file must be present beside the program
+  Always,        // no window needed
+  NeedsWindow,   // a graph window must be open
+  NotBuilt,      // the tool it opens is not part of this version: always disabled
+  HelpFile,      // the help file must be present beside the program
+  NeedsMathPad,  // a graph window must be open and this version must have MathPad
 };
 
 // Which state a checkable entry shows.

@@ -46,6 +46,12 @@ bool FrameCommands::Run(Command command, GraphChild* child) {
     case Command::ClearGrid: with([](GraphChild& c) { c.ClearGrid(); }); break;
     case Command::RedrawGrid: with([](GraphChild& c) { c.RedrawGrid(); }); break;
     case Command::ClearFunction: with([](GraphChild& c) { c.ClearFju(); }); break;
+    case Command::DrawTangent: with([](GraphChild& c) { c.mnuDrawTangent(); }); break;
+    case Command::DrawIntegral: with([](GraphChild& c) { c.mnuDrawIntegral(false); }); break;
+    case Command::DrawIntegralAverage: with([](GraphChild& c) { c.mnuDrawIntegral(true); }); break;
+    case Command::DrawDerivative: with([](GraphChild& c) { c.CrtajFJUDeriv(); }); break;
+    case Command::ToolLabel: with([](GraphChild& c) { c.mnulabel(); }); break;
+    case Command::SaveHistory: with([](GraphChild& c) { c.mnusaveHistory(); }); break;
     case Command::ColorBack:
     case Command::ColorGrid:
     case Command::ColorAxes:

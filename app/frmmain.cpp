@@ -341,6 +341,7 @@ FrameView FrmMain::View() const {
   view.windowCount = windows_.WindowCount();
   view.bands = toolbars_->Bands();
   view.helpFile = helpFile_;
+  view.mathPad = tools_->Has(platform::ToolWindow::MathPad);
   if (const graph_qt::FrmFunc* active = ActiveGraphWindow()) {
     view.hasActive = true;
     view.functionType = active->Logic().Boxes().optFunkcije();

@@ -29,6 +29,13 @@ class GraphChild {
   virtual void RedrawGrid() = 0;
   virtual void ClearFju() = 0;  // asks, then empties the function box ("Fju": function)
   virtual void OpenPlottingOptions() = 0;
+  // The window's own tools, which open its dialogs. Each does nothing by
+  // default (a frame test's window has no dialogs).
+  virtual void mnuDrawTangent() {}
+  virtual void mnuDrawIntegral(bool /*fromToolbar*/) {}
+  virtual void CrtajFJUDeriv() {}
+  virtual void mnulabel() {}
+  virtual void mnusaveHistory() {}
   // The window shows what its logic now holds.
   virtual void SyncFromLogic() = 0;
 };

@@ -24,6 +24,11 @@ class GraphChildAdapter final : public GraphChild {
   void RedrawGrid() override { window_.RedrawGrid(); }
   void ClearFju() override { window_.ClearFju(); }
   void OpenPlottingOptions() override { window_.OpenPlottingOptions(); }
+  void mnuDrawTangent() override { window_.mnuDrawTangent(); }
+  void mnuDrawIntegral(bool fromToolbar) override { window_.mnuDrawIntegral(fromToolbar); }
+  void CrtajFJUDeriv() override { window_.CrtajFJUDeriv(); }
+  void mnulabel() override { window_.mnulabel(); }
+  void mnusaveHistory() override { window_.mnusaveHistory(); }
   void SyncFromLogic() override { window_.SyncFromLogic(); }
 
  private:

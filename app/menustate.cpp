@@ -8,6 +8,7 @@ bool IsEnabled(EnableRule rule, const FrameView& view) {
     case EnableRule::NeedsWindow: return view.windowCount > 0 && view.hasActive;
     case EnableRule::NotBuilt: return false;
     case EnableRule::HelpFile: return view.helpFile;
+    case EnableRule::NeedsMathPad: return view.windowCount > 0 && view.hasActive && view.mathPad;
   }
   return false;
 }

@@ -17,6 +17,7 @@ struct FrameView {
   graph::ZoomMenu zoom;         // the active window's zoom texts and checked entry
   std::array<bool, 4> bands{};  // the bands shown
   bool helpFile = false;        // the help file is beside the program
+  bool mathPad = false;         // this version has MathPad
 };
 
 // Whether an entry with this rule can be used now.

@@ -4,17 +4,27 @@
 
 #include <QAction>
 #include <QApplication>
+#include <QCheckBox>
 #include <QDir>
 #include <QFile>
+#include <QLineEdit>
 #include <QMdiArea>
+#include <QMdiSubWindow>
 #include <QPixmap>
+#include <QPushButton>
+#include <QRadioButton>
 #include <QTextEdit>
 
 #include "app/framemenus.h"
 #include "app/frmmain.h"
 #include "app/toolwindowhost.h"
+#include "graph/graphwindow.h"
 #include "graph/qt/frmfunc.h"
 #include "graph/qt/frmgridopt.h"
+#include "graph/qt/frmlabel.h"
+#include "graph/qt/frmmini.h"
+#include "graph/qt/frmunesit.h"
+#include "graph/qt/picmcrbox.h"
 #include "graph/qt/qimagesurface.h"
 #include "mathpad/qt/frmansi.h"
 #include "mathpad/qt/frmmapuskice.h"
@@ -98,6 +108,72 @@ int MathPadScreenshots(FrmMain& frame, const QDir& dir) {
   return failures;
 }
 
+// The graph window's own tools in a window of its own: a tangent with its
+// dialog, an integral fill with its average band and the dialog, a rotated
+// label in hand over the plot. Returns the pictures not saved.
+int GraphToolShots(FrmMain& frame, const QDir& dir) {
+  frame.NewGraphWindow();
+  Settle();
+  graph_qt::FrmFunc* window = frame.ActiveGraphWindow();
+  if (window == nullptr) return 3;
+  if (auto* sub = qobject_cast<QMdiSubWindow*>(window->parentWidget())) sub->showMaximized();
+  Settle();
+  window->SettleSize();
+  int failures = 0;
+  const auto draw = [&](const char* y, const char* zoom) {
+    window->Logic().ClearGraph(true);
+    window->Logic().ApplyFineZoom(zoom);
+    window->Logic().SetFunctionTexts(y, "K");
+    window->SyncFromLogic();
+    window->DrawFunction();
+    Settle();
+  };
+
+  draw("X^2", "60");
+  if (graph_qt::FrmUnesit* tangent = window->mnuDrawTangent()) {
+    tangent->Text1()->setText(QStringLiteral("1"));
+    Settle();
+    if (!Save(*tangent, dir, QStringLiteral("tangent-dialog.png"))) ++failures;
+    tangent->Command1()->click();
+    Settle();
+  }
+  if (!Save(*window, dir, QStringLiteral("tangent.png"))) ++failures;
+
+  draw("SinX", "90");
+  if (graph_qt::FrmMini* mini = window->mnuDrawIntegral()) {
+    mini->Text1()->setText(QStringLiteral("0"));
+    mini->Text2()->setText(QStringLiteral("pi"));
+    mini->Check1()->setChecked(true);
+    mini->Text3()->setText(QStringLiteral("0.64"));
+    Settle();
+    if (!Save(*mini, dir, QStringLiteral("integral-dialog.png"))) ++failures;
+    mini->Command1()->click();
+    Settle();
+  }
+  if (!Save(*window, dir, QStringLiteral("integral.png"))) ++failures;
+
+  draw("SinX/X", "60");
+  if (graph_qt::FrmLabel* label = window->mnulabel()) {
+    label->SetAngle(30);
+    Settle();
+    label->cmdLabel()->click();
+    Settle();
+    window->Logic().MoveLabelTo(window->Logic().View().CenterX() + 40,
+                                window->Logic().View().CenterY() - 140);
+    window->daLabele();
+    window->Logic().SetFunctionTexts("SinX/X", "K");
+    if (graph_qt::FrmLabel* second = window->mnulabel()) {
+      second->Text2()->setText(QStringLiteral("Upright label"));
+      second->SetAngle(90);
+      second->Check1()->setChecked(true);
+      second->cmdLabel()->click();
+    }
+    Settle();
+  }
+  if (!Save(*window, dir, QStringLiteral("label.png"))) ++failures;
+  return failures;
+}
+
 }  // namespace
 
 int TakeScreenshots(FrmMain& frame, const QString& folder) {
@@ -135,6 +211,7 @@ int TakeScreenshots(FrmMain& frame, const QString& folder) {
   if (!Save(*options, dir, QStringLiteral("options.png"))) ++failures;
   options->close();
   Settle();
+  failures += GraphToolShots(frame, dir);
   return failures + MathPadScreenshots(frame, dir);
 }
 

@@ -5,6 +5,8 @@
 #include <memory>
 #include <optional>
 #include <ostream>
+#include <stdexcept>
+#include <string>
 #include <string_view>
 
 #include "cli/plotcanvas.h"
@@ -23,6 +25,8 @@ constexpr std::string_view kUsage =
     "usage: velmora-cli plot [--settings FILE] [--width W] [--height H] [--history FILE]\n"
     "         [--type cartesian|parametric|polar] --y TEXT [--x TEXT] ...\n"
     "         [--zoom in|out|default|Z] [--right N] [--left N] [--up N] [--down N] [--center] ...\n"
+    "         [--tangent X0] [--normal X0] [--integral XMIN XMAX [--average V] [--hide-curve]]\n"
+    "         [--derivative] [--label TEXT X Y [--angle DEG] [--transparent]] ...\n"
     "         [--replay] [--png FILE] [--trace] [--table] [--status]\n";
 
 // A batch run asks nothing: the move and zoom commands get their answers
@@ -52,7 +56,18 @@ class TracePrinter final : public graph::LoopObserver {
 struct Step {
   std::string option;
   std::string value;
+  std::string value2;  // --integral: XMAX; --label: X
+  std::string value3;  // --label: Y
+  std::string extra;   // --integral: the average; --label: the angle
+  bool flag = false;   // --integral: --hide-curve; --label: --transparent
 };
+
+Step MakeStep(const std::string& option, const std::string& value = {}) {
+  Step step;
+  step.option = option;
+  step.value = value;
+  return step;
+}
 
 struct Options {
   std::optional<std::string> settings;
@@ -74,8 +89,8 @@ bool ParseInt(std::string_view text, int& value) {
 
 // Reads the options; false with a message on a bad command line.
 bool Parse(const std::vector<std::string>& args, Options& o, std::ostream& err) {
-  static const std::vector<std::string_view> kSteps = {"--type",  "--y",    "--x",  "--zoom",
-                                                       "--right", "--left", "--up", "--down"};
+  static const std::vector<std::string_view> kSteps = {"--type", "--y",  "--x",    "--zoom",    "--right",
+                                                       "--left", "--up", "--down", "--tangent", "--normal"};
   for (std::size_t i = 0; i < args.size(); ++i) {
     const std::string& a = args[i];
     const auto value = [&](std::string& into) {
@@ -95,8 +110,27 @@ bool Parse(const std::vector<std::string>& args, Options& o, std::ostream& err) 
       o.status = true;
     } else if (a == "--replay") {
       o.replay = true;
-    } else if (a == "--center") {
-      o.steps.push_back({a, {}});
+    } else if (a == "--center" || a == "--derivative") {
+      o.steps.push_back(MakeStep(a));
+    } else if (a == "--integral" || a == "--label") {
+      Step step = MakeStep(a);
+      if (!value(step.value) || !value(step.value2)) return false;
+      if (a == "--label" && !value(step.value3)) return false;
+      o.steps.push_back(step);
+    } else if (a == "--average" || a == "--hide-curve" || a == "--angle" || a == "--transparent") {
+      // Each belongs to the --integral or --label just before it.
+      const bool ofIntegral = a == "--average" || a == "--hide-curve";
+      const char* owner = ofIntegral ? "--integral" : "--label";
+      if (o.steps.empty() || o.steps.back().option != owner) {
+        err << "velmora-cli plot: " << a << " follows " << owner << "\n";
+        return false;
+      }
+      if (a == "--average" || a == "--angle") {
+        if (!value(v)) return false;
+        o.steps.back().extra = v;
+      } else {
+        o.steps.back().flag = true;
+      }
     } else if (a == "--settings" || a == "--history" || a == "--png") {
       if (!value(v)) return false;
       (a == "--settings" ? o.settings : a == "--history" ? o.history : o.png) = v;
@@ -114,7 +148,7 @@ bool Parse(const std::vector<std::string>& args, Options& o, std::ostream& err) 
         err << "velmora-cli plot: --type is cartesian, parametric or polar\n";
         return false;
       }
-      o.steps.push_back({a, v});
+      o.steps.push_back(MakeStep(a, v));
     } else {
       err << "velmora-cli plot: unknown option '" << a << "'\n" << kUsage;
       return false;
@@ -130,6 +164,77 @@ struct Pending {
   std::string y;
   std::optional<std::string> x;
 };
+
+// The frame's Draw Tangent: the dialog of the window's type with the point
+// typed and OK pressed; a polar function is refused.
+void Tangent(graph::GraphWindow& window, bool normal, const std::string& point, platform::MessageBox& box) {
+  const int type = window.Boxes().optFunkcije();
+  if (type == graph::kPolar) {
+    box.Show("Available for Cartesian and Parametric functions.",
+             std::string(graph::GraphWindow::kDefaultTitle), platform::MsgIcon::Exclamation);
+    return;
+  }
+  if (type == graph::kCartesian && !window.crtajt()) return;
+  if (point.empty()) {
+    box.Show("Enter point value.", std::string(graph::GraphWindow::kDefaultTitle),
+             platform::MsgIcon::Information);
+    return;
+  }
+  const auto value = window.EvaluatePoint(point);
+  if (!value) return;
+  if (type == graph::kCartesian) {
+    window.ApplyTangent(normal, *value);
+  } else {
+    window.ApplyParametricTangent(normal, *value);
+  }
+}
+
+// The frame's Draw Integral: refused for other types, then frmMini with its
+// fields filled and OK pressed.
+void Integral(graph::GraphWindow& window, const Step& s, platform::MessageBox& box) {
+  if (window.Boxes().optFunkcije() != graph::kCartesian) {
+    box.Show("Available for Cartesian functions only.", std::string(graph::GraphWindow::kDefaultTitle),
+             platform::MsgIcon::Exclamation);
+    return;
+  }
+  if (!window.mnuDrawIntegral()) return;
+  graph::GraphWindow::IntegralRequest request;
+  request.xMin = s.value;
+  request.xMax = s.value2;
+  request.drawAverage = !s.extra.empty();
+  request.average = s.extra;
+  request.drawFunction = !s.flag;
+  window.ApplyIntegral(request);
+}
+
+// Insert Label: the dialog's text, angle and transparency, the box dragged
+// to X, Y (user units of its top left) and burnt in.
+bool Label(graph::GraphWindow& window, const Step& s, std::ostream& out, std::ostream& err) {
+  graph::LabelStyle style;
+  style.text = s.value;
+  double x = 0;
+  double y = 0;
+  try {
+    x = std::stod(s.value2);
+    y = std::stod(s.value3);
+    if (!s.extra.empty()) style.angle = std::stod(s.extra);
+  } catch (const std::exception&) {
+    err << "velmora-cli plot: --label X Y and --angle are numbers\n";
+    return false;
+  }
+  if (style.angle < -180 || style.angle > 180) {
+    err << "velmora-cli plot: --angle is from -180 to 180\n";
+    return false;
+  }
+  style.transparent = s.flag;
+  if (!window.mnulabel()) return true;
+  if (!window.cmdLabelL(style)) return true;
+  const auto& view = window.View();
+  window.MoveLabelTo(view.CenterX() + x * view.Zoom(), view.CenterY() - y * view.Zoom());
+  window.daLabele();
+  out << "label: " << style.text << '\n';
+  return true;
+}
 
 }  // namespace
 
@@ -207,6 +312,19 @@ int RunPlot(const std::vector<std::string>& args, std::istream& /*in*/, std::ost
       });
     } else if (s.option == "--center") {
       viewCommand([&] { window.mnuCenter(); });
+    } else if (s.option == "--tangent" || s.option == "--normal") {
+      flush();
+      Tangent(window, s.option == "--normal", s.value, messages);
+      out << "txtY: " << window.Boxes().txtY().Text << '\n';
+    } else if (s.option == "--integral") {
+      flush();
+      Integral(window, s, messages);
+    } else if (s.option == "--derivative") {
+      flush();
+      window.CrtajFJUDeriv();
+    } else if (s.option == "--label") {
+      flush();
+      if (!Label(window, s, out, err)) return 2;
     } else {
       // The menu's move with the answer it would have asked for.
       viewCommand([&] {

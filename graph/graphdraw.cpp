@@ -72,17 +72,19 @@ void GraphWindow::Draw(const PlotProcedure& procedure) {
   // brackets for square and curly ones.
   draw_.ClearStop();
   boxes_.RemoveBlanks(polar);
-  std::string funcY = expr::CleanUp(boxes_.txtY().Text);
-  std::string funcX = polar ? draw_.FuncX() : expr::CleanUp(boxes_.txtX().Text);
+  std::string funcY = procedure.fixedY != nullptr ? *procedure.fixedY : expr::CleanUp(boxes_.txtY().Text);
+  std::string funcX = procedure.fixedY != nullptr ? std::string("K")
+                      : polar                     ? draw_.FuncX()
+                                                  : expr::CleanUp(boxes_.txtX().Text);
   // The trial: a bad text has shown its message and nothing is drawn.
-  if (procedure.checkSyntax) {
+  if (procedure.checkSyntax && procedure.fixedY == nullptr) {
     if (!CheckSyntax(funcY)) return;
     if (!polar && boxes_.optFunkcije() == kParametric && !CheckSyntax(funcX)) return;
   }
   // A solid pen, no cross-hairs or tangent mark, this plot's colour and width.
   expr::ResumeNext([&] { surface_.SetDrawStyle(kSolid); });
   HideLines();
-  ChooseColour();
+  if (!procedure.keepColour) ChooseColour();
   pen_.EnsureLineWidth();
   expr::ResumeNext([&] { surface_.SetDrawWidth(expr::ToShort(pen_.GraphLineWidth())); });
   // K is the only variable; EP and STL keep the X of EXP and FIX. A polar R
@@ -95,20 +97,25 @@ void GraphWindow::Draw(const PlotProcedure& procedure) {
     draw_.SetFunctions(expr::EvaluationForm(funcY), expr::EvaluationForm(funcX));
   }
   // The texts as typed, for the history.
-  typedY_ = boxes_.txtY().Text;
-  typedX_ = boxes_.txtX().Text;
-  lastDrawPolar_ = polar;
+  if (procedure.remember) {
+    typedY_ = boxes_.txtY().Text;
+    typedX_ = boxes_.txtX().Text;
+    lastDrawPolar_ = polar;
+  }
   LoopResult result;
   {
     // Drawing is cleared however the loop ends, a fault included.
     DrawingGuard drawing(draw_);
     Progress("Done...    0 %", true);
-    CurveStrategy strategy(*this, !polar && boxes_.optFunkcije() == kCartesian);
+    CurveStrategy curve(*this, !polar && boxes_.optFunkcije() == kCartesian);
+    SampleStrategy& strategy = procedure.strategy != nullptr ? *procedure.strategy : curve;
+    // A hidden curve starts with the invisible pen.
+    expr::ResumeNext([&] { surface_.SetDrawStyle(strategy.SolidStyle()); });
     result = SamplingLoop(*this, strategy).Run();
     // The value table first: the history record of a Cartesian function
     // names the table's first row, which must be this function's. Faults
     // are ignored from here on.
-    FinishTable(polar, result.lastXp);
+    if (procedure.table) FinishTable(polar, result.lastXp);
     if (procedure.remember) funcSave();
     if (services_.host != nullptr) services_.host->RefreshFrame();
     if (procedure.remember) AddRecent(polar);

@@ -1,6 +1,7 @@
 #pragma once
 
 #include <memory>
+#include <optional>
 #include <string>
 #include <string_view>
 #include <vector>
@@ -12,6 +13,7 @@
 #include "graph/drawstate.h"
 #include "graph/functionboxes.h"
 #include "graph/graphhost.h"
+#include "graph/graphlabel.h"
 #include "graph/graphpaper.h"
 #include "graph/graphtooltarget.h"
 #include "graph/historylog.h"
@@ -197,6 +199,90 @@ class GraphWindow final : public expr::GraphFields, public GraphToolTarget {
   // alone is v itself.
   double EvaluateXAt(std::string_view evaluationForm, double v, double w);
 
+  // ---- Tangent and normal ------------------------------------------------------
+  // `lblBoja2`: the tangent colour, in which tangents and normals are drawn.
+  static constexpr Colour kTangentColour = 0x008000;
+  Colour lblBoja2() const { return kTangentColour; }
+  // `crtajt`: whether the Cartesian tangent dialog may open. An empty txtY
+  // shows "Draw function first." ("Tangent/Normal"); an X box other than
+  // "K" shows "This option is available only for Cartesian (Standard)
+  // functions." ("Tamgent/Normal").
+  bool crtajt();
+  // The point a tangent dialog was given, through Evaluator1: its value, or
+  // nothing after the box "Error. " and the fault's description.
+  std::optional<double> EvaluatePoint(std::string_view text);
+  // `frmunesit` OK with the point's value: the request (Tngenta or
+  // Normalka, TngentaX, fjaT) and `unesix`.
+  void ApplyTangent(bool normal, double x0);
+  // `frmUnTP` OK: the parametric request and `unesixPara` or
+  // `unesixParaNorm`.
+  void ApplyParametricTangent(bool normal, double k);
+  // `unesix`: txtY becomes the tangent or normal of its function at
+  // TngentaX, drawn by CrtajFJU in the tangent colour (`Boje4`, `Boje5`).
+  void unesix();
+  // `unesixPara`, `unesixParaNorm`: the tangent or normal of the parametric
+  // pair of the request at k, drawn as a Cartesian line in the tangent colour.
+  void unesixPara(double k);
+  void unesixParaNorm(double k);
+
+  // ---- Integral, average and derivative ----------------------------------------
+  // What `frmMini` hands over: the range texts, `Check2` "Draw Function",
+  // `Check1` "Draw Average" and `Text3`, the average's value.
+  struct IntegralRequest {
+    std::string xMin;
+    std::string xMax;
+    bool drawFunction = true;
+    bool drawAverage = false;
+    std::string average;
+  };
+  // `mnuDrawIntegral`: whether frmMini may open ("Enter function first.",
+  // "Not available for parametric functions." otherwise).
+  bool mnuDrawIntegral();
+  // `frmMini` OK: false (the dialog stays) after "Invalid input for Average
+  // value."; else the fill, and with the average the fill and the band
+  // twice over the same range.
+  bool ApplyIntegral(const IntegralRequest& request);
+  // `CrtajIntegralNovo`: the paper afresh, then the function with strokes
+  // down to the X axis from XMin to XMax; no record, lists or table.
+  void CrtajIntegralNovo();
+  // `CrtajAverageNovo`: the band: strokes from the average's value down to
+  // the axis over the same range in AvBoja, the pen hidden otherwise.
+  void CrtajAverageNovo();
+  // `CrtajFJUDeriv`: the derivative of the function in txtY, in the chosen
+  // graph colour; no record, lists or table.
+  void CrtajFJUDeriv();
+  // `AvBoja`: the band's colour (Shape1 of frmMini).
+  void SetAvBoja(Colour colour) { pen_.SetAvBoja(colour); }
+  // The derivative of FuncY at K = v through Evaluator1; a failure gives 0.
+  double FDeriv(double v);
+
+  // ---- Labels --------------------------------------------------------------------
+  static constexpr std::string_view kLabelInHand = "Insert current label or delete it before you proceed.";
+  static constexpr std::string_view kLabelEmpty = "Enter Graph Label text.";
+  static constexpr std::string_view kLabelDragHint =
+      "Drag the Label and click right mouse to insert or delete";
+  static constexpr std::string_view kLabelAnglePrompt =
+      "Set value for rotating angle in range (-180 to 180) Deg.";
+  // `picMCRBox`: the label in hand.
+  const GraphLabel& picMCRBox() const { return label_; }
+  // `mnulabel`: refused with kLabelInHand while a label is in hand;
+  // otherwise the default text of the dialog: the function with its
+  // caption, for a parametric pair "X (K) =" X, two blanks, "Y (K) =" Y.
+  std::optional<std::string> mnulabel();
+  // `cmdLabelL`: an empty text shows kLabelEmpty and gives false; else the
+  // label is in hand over the plot, its top left at (left, top).
+  bool cmdLabelL(const LabelStyle& style, double left = 20, double top = 20);
+  // The angle asked by its input box: a number from -180 to 180, or
+  // nothing (cancelled or out of range).
+  std::optional<double> AskLabelAngle();
+  // A drag of the label by the mouse, with its hint in LblChart.
+  void DragLabel(double dx, double dy);
+  void MoveLabelTo(double left, double top) { label_.MoveTo(left, top); }
+  // `daLabele`: the label burnt into the picture where it stands, then
+  // hidden; `neLabel`: hidden, nothing drawn.
+  void daLabele();
+  void neLabel() { label_.Hide(); }
+
   // ---- Paper and clearing ---------------------------------------------------
   // `DrawLines`: the graph paper (grid, axes, numbers) over the picture.
   void DrawLines();
@@ -301,15 +387,21 @@ class GraphWindow final : public expr::GraphFields, public GraphToolTarget {
  private:
   // How a plot procedure differs from CrtajFJU around the one loop.
   struct PlotProcedure {
-    bool polar = false;         // R (K) drawn as R sin K against R cos K
-    bool polarInType3 = false;  // polar only when the window is in type 3
-    bool checkSyntax = true;    // the trial of the texts before the draw
-    bool remember = true;       // history record, recent line, count and lists
+    bool polar = false;                   // R (K) drawn as R sin K against R cos K
+    bool polarInType3 = false;            // polar only when the window is in type 3
+    bool checkSyntax = true;              // the trial of the texts before the draw
+    bool remember = true;                 // history record, recent line, count and lists
+    bool table = true;                    // the value table refilled after the loop
+    bool keepColour = false;              // Graph_Clr as it stands (tangent colour, band, derivative)
+    SampleStrategy* strategy = nullptr;   // null: the window's curve
+    const std::string* fixedY = nullptr;  // a constant Y (the band) instead of the boxes
   };
   friend class SamplingLoop;
   friend class CurveStrategy;
 
   void Draw(const PlotProcedure& procedure);
+  // CrtajFJU in the tangent colour, the plot colour back afterwards.
+  void DrawTangentLine();
   bool CheckSyntax(const std::string& cleaned);
   void ChooseColour();
   void FinishTable(bool polar, double lastXp);
@@ -357,6 +449,12 @@ class GraphWindow final : public expr::GraphFields, public GraphToolTarget {
   ZoomMenu zoomMenu_;
   FractionFields fraction_;
 
+  GraphLabel label_;
+  // The range and the choices of the last frmMini.
+  double xMin_ = 0;
+  double xMax_ = 0;
+  bool check2_ = true;
+  std::string averageText_;
   // The last draw was of a polar curve (its record is the polar one).
   bool lastDrawPolar_ = false;
   // The typed texts of the last draw, kept for its history record.

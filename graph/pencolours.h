@@ -21,6 +21,7 @@ class PenColours {
   }
   // `AvBoja`: the colour of the average line.
   Colour AvBoja() const { return avBoja_; }
+  void SetAvBoja(Colour colour) { avBoja_ = colour; }
   // `GridColor`, `AxesColor`: the grid lines, the axes and their ticks.
   Colour GridColor() const { return gridColor_; }
   void SetGridColor(Colour colour) { gridColor_ = colour; }

@@ -92,6 +92,7 @@ LoopResult SamplingLoop::Run() {
     // A value that is not finite, an exact 0 (how a failed evaluation
     // comes back) or one beyond the limit is skipped.
     if (!NotFinite(y) && y != 0 && !(std::fabs(y) > kLimit)) {
+      y = strategy_.PlotY(kr, y);
       // X of the sample (K itself in Cartesian type), and both in pixels.
       x = strategy_.SampleX(kr, std::floor(y * 1000) / 1000);
       expr::ResumeNext([&] { xp = expr::Checked(w.view_.CenterX() + expr::Checked(x * w.view_.Zoom())); });
@@ -112,10 +113,23 @@ LoopResult SamplingLoop::Run() {
         inRange = 0 < narrowed && narrowed < s.ScaleHeight();
       });
       bool progress = true;
+      // A line to the sample, with the stroke down to the X axis where the
+      // strategy fills, drawn solid even when the curve is hidden; the next
+      // line starts at the stroke's foot, so the strokes close up.
+      const auto lineTo = [&] {
+        if (inRange && strategy_.Fills(xp)) {
+          expr::ResumeNext([&] { s.SetDrawStyle(kSolid); });
+          expr::ResumeNext([&] { s.LineTo(xp, yp, w.pen_.Graph_Clr()); });
+          expr::ResumeNext([&] { s.Line(xp, yp, xp, w.view_.CenterY(), w.pen_.Graph_Clr()); });
+          expr::ResumeNext([&] { s.SetDrawStyle(strategy_.SolidStyle()); });
+        } else {
+          expr::ResumeNext([&] { s.LineTo(xp, yp, w.pen_.Graph_Clr()); });
+        }
+      };
       if (penUp) {
         if (inRange) {
           if (!notStarted) {
-            expr::ResumeNext([&] { s.LineTo(xp, yp, w.pen_.Graph_Clr()); });
+            lineTo();
             action = PassAction::Line;
           } else {
             s.SetCurrentX(xp);
@@ -131,7 +145,7 @@ LoopResult SamplingLoop::Run() {
           progress = false;
         }
       } else {
-        expr::ResumeNext([&] { s.LineTo(xp, yp, w.pen_.Graph_Clr()); });
+        lineTo();
         action = PassAction::Line;
         if (!inRange) {
           s.SetCurrentX(xp);
@@ -151,7 +165,7 @@ LoopResult SamplingLoop::Run() {
     // The pen for the next segment: invisible after a sample whose text
     // reads beyond the limit or whose X is not finite.
     const bool invisible = TextAboveLimit(y) || NotFinite(x);
-    expr::ResumeNext([&] { s.SetDrawStyle(invisible ? kInvisible : kSolid); });
+    expr::ResumeNext([&] { s.SetDrawStyle(invisible ? kInvisible : strategy_.SolidStyle()); });
     if (w.services_.observer != nullptr)
       w.services_.observer->Pass({kr, y, x, xp, yp, action, s.DrawStyle()});
     // A Stop (Esc, the progress label) ends the loop after this sample.

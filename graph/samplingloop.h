@@ -2,6 +2,8 @@
 
 #include <string>
 
+#include "graph/surface.h"
+
 namespace velmora::graph {
 
 class GraphWindow;
@@ -43,6 +45,15 @@ class SampleStrategy {
   virtual double SampleY(double kr) = 0;
   virtual double SampleX(double kr, double yr) = 0;
   virtual bool TakesXpoc() const = 0;
+  // The Y plotted for a sample that passed the filter (the derivative plots
+  // its slope there); the curve plots the sample itself.
+  virtual double PlotY(double /*kr*/, double y) { return y; }
+  // Whether the column of a drawn sample gets a stroke down to the X axis
+  // (the fills of an integral and an average).
+  virtual bool Fills(double /*xp*/) const { return false; }
+  // The pen of a visible segment: invisible when the curve is hidden and
+  // only the strokes show.
+  virtual int SolidStyle() const { return kSolid; }
 };
 
 // The curve of a graph window: Y = F(kr), X = F2(kr, yr). Cartesian,

@@ -6,6 +6,8 @@
 
 namespace velmora::graph {
 
+struct LabelStyle;
+
 // A colour as the program keeps it: a 24-bit integer with blue in the high
 // byte (0x00BBGGRR).
 using Colour = std::uint32_t;
@@ -90,6 +92,12 @@ class Surface {
   // The size of a text in the current font, in pixels.
   virtual double TextWidth(std::string_view text) const = 0;
   virtual double TextHeight(std::string_view text) const = 0;
+
+  // Copies a label's box onto the picture with its top left at (left, top):
+  // the text in its font, colour and angle over the box's background
+  // `back`, which a transparent label leaves out pixel by pixel. A surface
+  // without pixels draws nothing.
+  virtual void BurnLabel(const LabelStyle& /*label*/, double /*left*/, double /*top*/, Colour /*back*/) {}
 };
 
 }  // namespace velmora::graph

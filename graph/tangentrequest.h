@@ -33,6 +33,9 @@ class TangentRequest {
   const std::string& fja2P() const { return fja2P_; }
   const std::string& fjaTP() const { return fjaTP_; }
 
+  // The slope of the drawn line, once it is known.
+  void SetSlopka(std::string slope) { slopka_ = std::move(slope); }
+
   // A finished plot ends a Cartesian request; a parametric one stays.
   void EndCartesian() {
     tngenta_ = false;

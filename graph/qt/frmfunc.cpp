@@ -110,6 +110,7 @@ FrmFunc::FrmFunc(FrmFuncServices services, QWidget* parent)
                                                       services_.colours, services_.files, services_.history);
   pDraw_->SetLines(&logic_->LineY(), &logic_->Line1(), &logic_->Line2());
   ConnectWidgets();
+  ConnectTools();
   SyncFromLogic();
   FocusFunctionBox();
 }

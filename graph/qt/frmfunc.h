@@ -38,7 +38,11 @@ class WindowCommands;
 namespace velmora::graph_qt {
 
 class FrmGridOpt;
+class FrmLabel;
+class FrmMini;
+class FrmUnesit;
 class PDrawView;
+class PicMcrBox;
 class QImageSurface;
 
 // What a graph window is given. The services must outlive the window.
@@ -136,6 +140,38 @@ class FrmFunc : public QWidget, private graph::GraphHost {
   // deletes itself when closed.
   FrmGridOpt* OpenPlottingOptions();
 
+  // ---- The window's own tools -----------------------------------------------------
+  // "Draw &Tangent && Normal...": refused for a polar function ("Available
+  // for Cartesian and Parametric functions."); `crtajt` and `frmunesit` for
+  // a Cartesian one, `frmUnTP` for a parametric pair. Returns the dialog
+  // shown (non-modal over the window, deleted when closed) or null.
+  FrmUnesit* mnuDrawTangent();
+  // "Draw &Integral && Average...": refused for a function that is not
+  // Cartesian ("Available for Cartesian functions only.", from the toolbar's
+  // "Integral/Average" "Available for Cartesian (standard) functions
+  // only."), then `mnuDrawIntegral` and `frmMini`, modal.
+  FrmMini* mnuDrawIntegral(bool fromToolbar = false);
+  // "Draw D&erivative": CrtajFJUDeriv.
+  void CrtajFJUDeriv();
+  // "Insert &Label...": `mnulabel`, then `frmLabel`; null when refused.
+  FrmLabel* mnulabel();
+  // The label in hand: burnt in (`daLabele`) or thrown away (`neLabel`).
+  void daLabele();
+  void neLabel();
+  PicMcrBox* picMCRBox();
+  // "&Save History...": "Open function history in MathPad?"; yes appends
+  // the history to MathPad's document. Needs MathPad.
+  void mnusaveHistory();
+  // The history's Print entry: "Open function history in MathPad and edit
+  // it, save or print?"; yes opens GraphLog.txt in MathPad.
+  void PrintLog2();
+  // The value table to the clipboard with its title: all rows (`SveTable`)
+  // or the selected ones (`Copyrow`).
+  void SveTable();
+  void Copyrow();
+  // Whether this version has MathPad (the history entries need it).
+  bool HasMathPad() const;
+
   // ---- The controls, for the frame and for tests -------------------------------
   PDrawView* pDraw() const { return pDraw_; }
   QComboBox* txtY() const { return txtY_; }
@@ -173,6 +209,10 @@ class FrmFunc : public QWidget, private graph::GraphHost {
 
   void BuildWidgets();
   void ConnectWidgets();
+  // The value table's copy menu and the label box.
+  void ConnectTools();
+  void ShowLabelBox();
+  std::string TableText(bool selectedOnly) const;
   void EnterInTxtY();
   void EnterInTxtX();
   void TakeBoxes();
@@ -215,6 +255,7 @@ class FrmFunc : public QWidget, private graph::GraphHost {
   QLabel* lblPerCent_ = nullptr;
   QLabel* LblChart_ = nullptr;
   QTimer* settle_ = nullptr;
+  PicMcrBox* picMCRBox_ = nullptr;
 
   std::optional<std::int64_t> lastScreenUpdateMs_;  // none: the next sample repaints
   int screenUpdates_ = 0;

@@ -1,11 +1,13 @@
 #include "graph/qt/qimagesurface.h"
 
 #include <algorithm>
+#include <cmath>
 
 #include <QFontDatabase>
 #include <QFontInfo>
 #include <QFontMetricsF>
 
+#include "graph/qt/labelimage.h"
 #include "platform/qt/qtsavefile.h"
 #include "platform/qt/qtstring.h"
 
@@ -38,6 +40,10 @@ constexpr double kPointsToPixels = 96.0 / 72.0;
 using qtplatform::ToQString;
 
 }  // namespace
+
+graph::Colour FromQColor(const QColor& colour) {
+  return graph::Rgb(colour.red(), colour.green(), colour.blue());
+}
 
 QColor ToQColor(graph::Colour colour) {
   return QColor(graph::RedOf(colour), graph::GreenOf(colour), graph::BlueOf(colour));
@@ -238,6 +244,12 @@ double QImageSurface::TextWidth(std::string_view text) const {
 double QImageSurface::TextHeight(std::string_view /*text*/) const {
   if (symbolFont_) return EmPixels();
   return QFontMetricsF(font_, &image_).height();
+}
+
+void QImageSurface::BurnLabel(const graph::LabelStyle& label, double left, double top, graph::Colour back) {
+  EndPainting();
+  BurnLabelImage(image_, RenderLabel(label, back), static_cast<int>(std::lround(left)),
+                 static_cast<int>(std::lround(top)), label.transparent, back);
 }
 
 }  // namespace velmora::graph_qt

@@ -46,6 +46,7 @@ class QImageSurface final : public graph::BasicSurface {
 
   double TextWidth(std::string_view text) const override;
   double TextHeight(std::string_view text) const override;
+  void BurnLabel(const graph::LabelStyle& label, double left, double top, graph::Colour back) override;
 
  protected:
   void PaintClear() override;
@@ -79,5 +80,7 @@ class QImageSurface final : public graph::BasicSurface {
 
 // QColor of a program colour (blue in the high byte).
 QColor ToQColor(graph::Colour colour);
+// A program colour of a QColor.
+graph::Colour FromQColor(const QColor& colour);
 
 }  // namespace velmora::graph_qt

@@ -37,6 +37,22 @@ TEST(MenuState, EnableRules) {
   }
 }
 
+// The history's MathPad entries: a window to read and MathPad to write to.
+TEST(MenuState, NeedsMathPadWantsAnActiveWindowAndMathPad) {
+  struct Case {
+    bool active;
+    bool mathPad;
+    bool enabled;
+  };
+  for (const Case c : {Case{true, true, true}, Case{true, false, false}, Case{false, true, false}}) {
+    FrameView view;
+    view.windowCount = c.active ? 1 : 0;
+    view.hasActive = c.active;
+    view.mathPad = c.mathPad;
+    EXPECT_EQ(IsEnabled(EnableRule::NeedsMathPad, view), c.enabled) << c.active << c.mathPad;
+  }
+}
+
 TEST(MenuState, ChecksFollowTheBandsTheTypeAndTheZoomOfTheActiveWindow) {
   FrameView view;
   view.windowCount = 1;

@@ -92,6 +92,24 @@ struct WindowFixture {
     return *window;
   }
 
+  // The same window over the program's formula engine (both controls), for
+  // the routines that differentiate through it.
+  graph::GraphWindow& MakeWithEngine() {
+    graph::GraphServices services;
+    services.settings = &settings;
+    services.messages = &messages;
+    services.input = &input;
+    services.evaluator1 = expr::MakeFormulaControl();
+    services.evaluator2 = expr::MakeFormulaControl();
+    services.host = &host;
+    services.observer = &observer;
+    if (check) services.makeChecker = &graph::MakeEvaluatorChecker;
+    services.history = history.get();
+    services.recent = recent.get();
+    window = std::make_unique<graph::GraphWindow>(surface, std::move(services));
+    return *window;
+  }
+
   RecordingSurface surface;
   velmora::testing::FakeSettingsStore settings;
   RecordingMessageBox messages;

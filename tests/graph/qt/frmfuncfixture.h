@@ -76,6 +76,7 @@ class FrmFuncTest : public ::testing::Test {
     services.history = history.get();
     services.frame = &frame;
     services.clockMs = clockMs;
+    services.tools = tools;
     window = std::make_unique<graph_qt::FrmFunc>(services);
     window->pDraw()->setFixedSize(width, height);
     window->show();
@@ -97,7 +98,8 @@ class FrmFuncTest : public ::testing::Test {
     QTest::keyClick(window->txtY(), Qt::Key_Return);
   }
 
-  std::function<std::int64_t()> clockMs;  // empty: the window's steady clock
+  std::function<std::int64_t()> clockMs;   // empty: the window's steady clock
+  platform::ToolWindows* tools = nullptr;  // null: no other tool windows
   QTemporaryDir dir;
   velmora::testing::FakeSettingsStore settings;
   RecordingMessageBox messages;
