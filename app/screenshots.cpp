@@ -6,12 +6,21 @@
 #include <QApplication>
 #include <QDir>
 #include <QMdiArea>
+#include <QComboBox>
+#include <QLineEdit>
 #include <QPixmap>
+#include <QRadioButton>
 
 #include "app/framemenus.h"
 #include "app/frmmain.h"
+#include "app/toolwindowhost.h"
 #include "graph/qt/frmfunc.h"
 #include "graph/qt/frmgridopt.h"
+#include "tools/qt/frmanalizanew.h"
+#include "tools/qt/frmintav.h"
+#include "tools/qt/frmnjutn.h"
+#include "tools/qt/frmtabela.h"
+#include "tools/qt/frmtast.h"
 
 namespace velmora::app {
 namespace {
@@ -31,6 +40,78 @@ bool Save(QWidget& widget, const QDir& folder, const QString& name) {
 void Choose(FrmMain& frame, const char* array, int index) {
   if (QAction* action = frame.Menus().Action(QString::fromLatin1(array), index)) action->trigger();
   Settle();
+}
+
+// The analysis tools after a calculation on the active window's function.
+int AnalysisShots(FrmMain& frame, const QDir& dir) {
+  using platform::ToolWindow;
+  graph_qt::FrmFunc* active = frame.ActiveGraphWindow();
+  if (active == nullptr) return 7;
+  active->Logic().DrawFunction(1, "x^3-3*x", "K");
+  active->SyncFromLogic();
+  Settle();
+  ToolWindowHost& tools = frame.Tools();
+  int failures = 0;
+  const auto shoot = [&](ToolWindow kind, const char* file, auto&& fill) {
+    tools.Show(kind);
+    QWidget* window = tools.Window(kind);
+    if (window == nullptr) {
+      ++failures;
+      return;
+    }
+    Settle();
+    fill(window);
+    Settle();
+    if (!Save(*window, dir, QString::fromLatin1(file))) ++failures;
+    window->close();
+    Settle();
+  };
+  shoot(ToolWindow::Evaluator, "evaluator.png", [](QWidget* w) {
+    auto* e = static_cast<tools_qt::FrmTast*>(w);
+    for (const char* text : {"2*pi*3", "sqr(2)", "exp(1)"}) {
+      e->WriteText(text);
+      e->Evaluate();
+    }
+  });
+  shoot(ToolWindow::ValueTables, "valuetables.png", [](QWidget* w) {
+    auto* t = static_cast<tools_qt::FrmTabela*>(w);
+    t->Combo1()->setEditText(QStringLiteral("0.5"));
+    t->CalculateTable();
+  });
+  shoot(ToolWindow::Zeros, "zeros.png", [](QWidget* w) {
+    auto* z = static_cast<tools_qt::FrmNjutn*>(w);
+    z->Option1(1)->click();
+    z->Calculate();
+  });
+  shoot(ToolWindow::Intersection, "intersection.png", [](QWidget* w) {
+    auto* z = static_cast<tools_qt::FrmNjutn*>(w);
+    z->Text7()->setEditText(QStringLiteral("x"));
+    z->Option1(1)->click();
+    z->Calculate();
+  });
+  shoot(ToolWindow::PointEvaluate, "pointevaluate.png", [](QWidget* w) {
+    auto* z = static_cast<tools_qt::FrmNjutn*>(w);
+    z->Text2()->setText(QStringLiteral("1.5"));
+    z->Calculate();
+    z->Option1(1)->click();
+    z->Text4()->setText(QStringLiteral("1"));
+    z->Calculate();
+  });
+  shoot(ToolWindow::Integrate, "integral.png", [](QWidget* w) {
+    auto* i = static_cast<tools_qt::FrmIntAv*>(w);
+    i->TxtMin()->setText(QStringLiteral("0"));
+    i->TxtMax()->setText(QStringLiteral("2"));
+    i->Integral();
+    i->Text8()->setText(QStringLiteral("1"));
+    i->Derivative();
+  });
+  shoot(ToolWindow::CriticalPoints, "criticalpoints.png", [](QWidget* w) {
+    auto* c = static_cast<tools_qt::FrmAnalizaNew*>(w);
+    c->TxtMin()->setText(QStringLiteral("-3"));
+    c->TxtMax()->setText(QStringLiteral("3"));
+    c->Calculate();
+  });
+  return failures;
 }
 
 }  // namespace
@@ -70,6 +151,7 @@ int TakeScreenshots(FrmMain& frame, const QString& folder) {
   if (!Save(*options, dir, QStringLiteral("options.png"))) ++failures;
   options->close();
   Settle();
+  failures += AnalysisShots(frame, dir);
   return failures;
 }
 

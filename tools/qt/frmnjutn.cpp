@@ -128,7 +128,9 @@ FrmNjutn::FrmNjutn(QWidget* owner, ToolServices services, ZeroKind kind)
   connect(calculate_, &QPushButton::clicked, this, &FrmNjutn::Calculate);
   connect(cancel, &QPushButton::clicked, this, &QWidget::close);
   connect(copy, &QPushButton::clicked, this, &FrmNjutn::CopyResult);
-  for (QLineEdit* box : {text1_->lineEdit(), text7_->lineEdit(), text2_, text4_, text5_, text6_}) {
+  OnEnter(text1_, this, [this] { Calculate(); });
+  OnEnter(text7_, this, [this] { Calculate(); });
+  for (QLineEdit* box : {text2_, text4_, text5_, text6_}) {
     connect(box, &QLineEdit::returnPressed, this, &FrmNjutn::Calculate);
   }
 

@@ -134,7 +134,7 @@ FrmTabela::FrmTabela(QWidget* owner, ToolServices services)
     Button("Calculate")->setEnabled(!txtY_->currentText().isEmpty());
   });
   connect(txtY_, &QComboBox::activated, this, &FrmTabela::ChooseFromList);
-  connect(combo1_->lineEdit(), &QLineEdit::returnPressed, this, &FrmTabela::CalculateTable);
+  OnEnter(combo1_, this, [this] { CalculateTable(); });
   connect(grid_, &QTableWidget::customContextMenuRequested, this, [this, copyMenu](const QPoint& at) {
     if (grid_->rowCount() > 2) copyMenu->exec(grid_->viewport()->mapToGlobal(at));
   });

@@ -15,6 +15,7 @@
 #include <QPushButton>
 #include <QScrollBar>
 #include <QTextEdit>
+#include <QTimer>
 #include <QToolBar>
 #include <QToolButton>
 #include <QVBoxLayout>
@@ -110,7 +111,7 @@ FrmTast::FrmTast(QWidget* owner, ToolServices services)
   connect(evaluate_, &QPushButton::clicked, this, &FrmTast::Evaluate);
   connect(replace, &QPushButton::clicked, this, &FrmTast::Replace);
   connect(cancel, &QPushButton::clicked, this, &QWidget::close);
-  connect(text1_->lineEdit(), &QLineEdit::returnPressed, this, &FrmTast::Evaluate);
+  OnEnter(text1_, this, [this] { Evaluate(); });
   connect(text2_, &QLineEdit::returnPressed, this, &FrmTast::Evaluate);
   connect(boxC1_, &QListWidget::itemActivated, this, &FrmTast::InsertName);
   connect(boxC1_, &QListWidget::itemClicked, this, &FrmTast::InsertName);
@@ -148,7 +149,8 @@ void FrmTast::Evaluate() {
   for (const std::string& item : tool_->list) text1_->addItem(ToQString(item));
   text1_->setEditText(typed);
   text1_->setFocus();
-  text1_->lineEdit()->selectAll();
+  // After the combo box has handled the Enter that started the evaluation.
+  QTimer::singleShot(0, text1_->lineEdit(), &QLineEdit::selectAll);
 }
 
 void FrmTast::ShowResult() {

@@ -1,6 +1,11 @@
 #include "tools/qt/toolservices.h"
 
 #include <QClipboard>
+#include <QComboBox>
+#include <QLineEdit>
+#include <QTimer>
+
+#include <memory>
 #include <QGuiApplication>
 
 #include "platform/qt/qtstring.h"
@@ -18,6 +23,16 @@ std::string FromDisplay(const QString& text) {
   kept.replace(QStringLiteral("\r\n"), QStringLiteral("\n"));
   kept.replace(QStringLiteral("\n"), QStringLiteral("\r\n"));
   return qtplatform::ToStdString(kept);
+}
+
+void OnEnter(QComboBox* box, QObject* context, std::function<void()> command) {
+  auto pending = std::make_shared<bool>(false);
+  QObject::connect(box->lineEdit(), &QLineEdit::returnPressed, context, [pending, command] {
+    if (*pending) return;
+    *pending = true;
+    QTimer::singleShot(0, [pending] { *pending = false; });
+    command();
+  });
 }
 
 void PutText(const QString& text) {

@@ -12,6 +12,9 @@
 #include "platform/toolwindows.h"
 
 
+class QComboBox;
+class QObject;
+
 namespace velmora::tools_qt {
 
 // What the analysis tool windows get from the frame: the platform services,
@@ -31,6 +34,9 @@ struct ToolServices {
 // The log boxes keep CR LF line ends in the logic; a Qt text box shows LF.
 QString ToDisplay(const std::string& text);
 std::string FromDisplay(const QString& text);
+// Enter in an editable combo box runs `command` once: the box hands the
+// key to its line edit a second time, which would run it twice.
+void OnEnter(QComboBox* box, QObject* context, std::function<void()> command);
 // Clears the clipboard and puts a text on it.
 void PutText(const QString& text);
 
