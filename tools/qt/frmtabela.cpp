@@ -47,17 +47,18 @@ FrmTabela::FrmTabela(QWidget* owner, ToolServices services)
   }
 
   toolbar_ = new QToolBar(this);
-  const auto add = [this](const char* key, const char* tip, auto slot) {
-    QAction* action = toolbar_->addAction(QString::fromUtf8(tip), this, slot);
+  // Short captions keep every button in view; the tips are the full names.
+  const auto add = [this](const char* key, const char* caption, const char* tip, auto slot) {
+    QAction* action = toolbar_->addAction(QString::fromUtf8(caption), this, slot);
     action->setObjectName(QString::fromUtf8(key));
     action->setToolTip(QString::fromUtf8(tip));
     return action;
   };
-  add("New", "Clear Table", [this] {
+  add("New", "Clear", "Clear Table", [this] {
     tool_->InitTableGrid();
     ShowTable();
   });
-  QAction* copy = add("Copy", "Copy Table", [this] { CopyTable(); });
+  QAction* copy = add("Copy", "Copy", "Copy Table", [this] { CopyTable(); });
   auto* copyMenu = new QMenu(this);
   copyMenu->addAction(QStringLiteral("&Copy Table"), this, &FrmTabela::CopyTable)->setObjectName("copy1");
   copyMenu->addAction(QStringLiteral("C&opy Cell"), this, [this] {
@@ -67,9 +68,9 @@ FrmTabela::FrmTabela(QWidget* owner, ToolServices services)
   if (auto* button = qobject_cast<QToolButton*>(toolbar_->widgetForAction(copy))) {
     button->setPopupMode(QToolButton::MenuButtonPopup);
   }
-  add("Save", "Paste Table in MathPad", [this] { PasteInMathPad(); });
-  add("HTML", "Publish Table as HTML", [this] { PublishTable(); });
-  add("Calculate", "Calculate Table", [this] { CalculateTable(); });
+  add("Save", "To MathPad", "Paste Table in MathPad", [this] { PasteInMathPad(); });
+  add("HTML", "HTML", "Publish Table as HTML", [this] { PublishTable(); });
+  add("Calculate", "Calculate", "Calculate Table", [this] { CalculateTable(); });
   toolbar_->installEventFilter(this);
 
   txtY_ = new QComboBox(this);
