@@ -4,10 +4,10 @@
 
 #include <QAction>
 #include <QApplication>
-#include <QDir>
-#include <QMdiArea>
 #include <QComboBox>
+#include <QDir>
 #include <QLineEdit>
+#include <QMdiArea>
 #include <QPixmap>
 #include <QRadioButton>
 

@@ -35,15 +35,19 @@ void RegisterToolWindows(ToolWindowHost& host, const FrameServices& services) {
     };
   };
   host.Register(ToolWindow::Evaluator, tool([](QWidget* o, auto s) { return new tools_qt::FrmTast(o, s); }));
-  host.Register(ToolWindow::ValueTables, tool([](QWidget* o, auto s) { return new tools_qt::FrmTabela(o, s); }));
+  host.Register(ToolWindow::ValueTables,
+                tool([](QWidget* o, auto s) { return new tools_qt::FrmTabela(o, s); }));
   host.Register(ToolWindow::Zeros,
                 tool([](QWidget* o, auto s) { return new tools_qt::FrmNjutn(o, s, ZeroKind::Zeros); }));
-  host.Register(ToolWindow::Intersection,
-                tool([](QWidget* o, auto s) { return new tools_qt::FrmNjutn(o, s, ZeroKind::Intersection); }));
-  host.Register(ToolWindow::PointEvaluate,
-                tool([](QWidget* o, auto s) { return new tools_qt::FrmNjutn(o, s, ZeroKind::PointEvaluate); }));
+  host.Register(ToolWindow::Intersection, tool([](QWidget* o, auto s) {
+                  return new tools_qt::FrmNjutn(o, s, ZeroKind::Intersection);
+                }));
+  host.Register(ToolWindow::PointEvaluate, tool([](QWidget* o, auto s) {
+                  return new tools_qt::FrmNjutn(o, s, ZeroKind::PointEvaluate);
+                }));
   host.Register(ToolWindow::Integrate, tool([](QWidget* o, auto s) { return new tools_qt::FrmIntAv(o, s); }));
-  host.Register(ToolWindow::CriticalPoints, tool([](QWidget* o, auto s) { return tools_qt::FrmAnalizaNew::Open(o, s); }));
+  host.Register(ToolWindow::CriticalPoints,
+                tool([](QWidget* o, auto s) { return tools_qt::FrmAnalizaNew::Open(o, s); }));
 }
 
 }  // namespace velmora::app

@@ -49,7 +49,9 @@ void BM_CriticalPointsOfTheCatalogue(benchmark::State& state) {
   }
   state.SetLabel(function);
 }
-BENCHMARK(BM_CriticalPointsOfTheCatalogue)->DenseRange(0, static_cast<int>(CartesianCatalogue().size()) - 1)->Unit(benchmark::kMillisecond);
+BENCHMARK(BM_CriticalPointsOfTheCatalogue)
+    ->DenseRange(0, static_cast<int>(CartesianCatalogue().size()) - 1)
+    ->Unit(benchmark::kMillisecond);
 
 // A table of 10,000 rows: X from 0 to 9999 by 1.
 void Table10000(tools::ValueTableTool& tool) {

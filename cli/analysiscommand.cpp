@@ -137,10 +137,11 @@ int Zero(tools::ZeroKind kind, const std::vector<std::string>& args, std::ostrea
 
 int RunTable(const std::vector<std::string>& args, std::istream&, std::ostream& out, std::ostream& err) {
   Words w;
-  if (!Parse(args, {"--type", "--y", "--x", "--xmin", "--xmax", "--step", "--accuracy", "--html"}, {"--text"}, w,
-             err) ||
+  if (!Parse(args, {"--type", "--y", "--x", "--xmin", "--xmax", "--step", "--accuracy", "--html"}, {"--text"},
+             w, err) ||
       !w.plain.empty() || !w.Has("--y")) {
-    err << "usage: velmora-cli table [--type cartesian|parametric|polar] --y TEXT [--x TEXT] [--xmin T] [--xmax T] "
+    err << "usage: velmora-cli table [--type cartesian|parametric|polar] --y TEXT [--x TEXT] [--xmin T] "
+           "[--xmax T] "
            "[--step T] [--accuracy N] [--text] [--html FILE]\n";
     return kUsage;
   }
@@ -199,10 +200,12 @@ int RunPoint(const std::vector<std::string>& args, std::istream&, std::ostream& 
 
 int RunIntegral(const std::vector<std::string>& args, std::istream&, std::ostream& out, std::ostream& err) {
   Words w;
-  if (!Parse(args, {"--segments", "--accuracy"}, {"--trapezoid", "--average", "--derivative"}, w, err)) return kUsage;
+  if (!Parse(args, {"--segments", "--accuracy"}, {"--trapezoid", "--average", "--derivative"}, w, err))
+    return kUsage;
   const bool derivative = w.Flag("--derivative");
   if (w.plain.size() != (derivative ? 2u : 3u)) {
-    err << "usage: velmora-cli integral FUNCTION MIN MAX [--segments N] [--trapezoid] [--average] [--accuracy N]\n"
+    err << "usage: velmora-cli integral FUNCTION MIN MAX [--segments N] [--trapezoid] [--average] "
+           "[--accuracy N]\n"
            "       velmora-cli integral --derivative FUNCTION POINT [--accuracy N]\n";
     return kUsage;
   }
@@ -255,7 +258,8 @@ int RunCritical(const std::vector<std::string>& args, std::istream&, std::ostrea
   return 0;
 }
 
-int RunEvaluate(const std::vector<std::string>& args, std::istream& in, std::ostream& out, std::ostream& err) {
+int RunEvaluate(const std::vector<std::string>& args, std::istream& in, std::ostream& out,
+                std::ostream& err) {
   if (!args.empty()) {
     err << "usage: velmora-cli evaluate < lines of EXPRESSION[<tab>X]\n";
     return kUsage;

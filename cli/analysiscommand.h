@@ -16,7 +16,8 @@ int RunTable(const std::vector<std::string>& args, std::istream& in, std::ostrea
 // velmora-cli zeros FUNCTION (--guess G | --range XMIN XMAX) [--accurate]
 int RunZeros(const std::vector<std::string>& args, std::istream& in, std::ostream& out, std::ostream& err);
 // velmora-cli intersect F1 F2 (--guess G | --range XMIN XMAX) [--accurate]
-int RunIntersect(const std::vector<std::string>& args, std::istream& in, std::ostream& out, std::ostream& err);
+int RunIntersect(const std::vector<std::string>& args, std::istream& in, std::ostream& out,
+                 std::ostream& err);
 // velmora-cli point FUNCTION (--x X | --y Y --range XMIN XMAX) [--accurate]
 int RunPoint(const std::vector<std::string>& args, std::istream& in, std::ostream& out, std::ostream& err);
 // velmora-cli integral FUNCTION MIN MAX [--segments N] [--trapezoid] [--average] [--accuracy N]

@@ -49,10 +49,12 @@ const std::vector<Command>& Commands() {
        "table [--type T] --y TEXT [--x TEXT] [--xmin T] [--xmax T] [--step T] [--accuracy N] [--text] "
        "[--html F]: a value table",
        RunTable},
-      {"zeros", "zeros FUNCTION (--guess G | --range XMIN XMAX) [--accurate]: zeros by the Newton search", RunZeros},
+      {"zeros", "zeros FUNCTION (--guess G | --range XMIN XMAX) [--accurate]: zeros by the Newton search",
+       RunZeros},
       {"intersect", "intersect F1 F2 (--guess G | --range XMIN XMAX) [--accurate]: where two functions meet",
        RunIntersect},
-      {"point", "point FUNCTION (--x X | --y Y --range XMIN XMAX) [--accurate]: Y at X, or the X of a Y", RunPoint},
+      {"point", "point FUNCTION (--x X | --y Y --range XMIN XMAX) [--accurate]: Y at X, or the X of a Y",
+       RunPoint},
       {"integral",
        "integral FUNCTION MIN MAX [--segments N] [--trapezoid] [--average] [--accuracy N], or integral "
        "--derivative FUNCTION POINT: integral, average, derivative",

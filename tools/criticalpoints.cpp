@@ -112,12 +112,14 @@ void CriticalPoints::CoarseScan(double xmin, double xmax, const Pulse& pulse) {
     expr::ResumeNext([&] { d = expr::RoundTo(Derivative("(" + row.x + ")", expression), 1); });
     if (candidates_.empty()) {
       candidates_.push_back(row.x);
-    } else if (std::fabs(d) < kCandidateSlope && std::fabs(Val(row.x) - Val(candidates_.back())) > kCandidateDistance) {
+    } else if (std::fabs(d) < kCandidateSlope &&
+               std::fabs(Val(row.x) - Val(candidates_.back())) > kCandidateDistance) {
       AddUnique(candidates_, row.x);
     }
     if (static_cast<int>(candidates_.size()) > kMaxCandidates) {
       messages_.Show(
-          "Lost accuracy in approximation.\r\nPlease define smaller range around the expected critical points and "
+          "Lost accuracy in approximation.\r\nPlease define smaller range around the expected critical "
+          "points and "
           "try again.",
           kTitle, platform::MsgIcon::Information);
       candidates_.clear();
@@ -175,7 +177,8 @@ std::string CriticalPoints::RefinePoints() {
     if (d == 0 && label != "Critical point: ") AddUnique(found, label + "Y = " + y + " ; X = " + x);
   }
   if (found.empty()) {
-    out += "No critical points found for this function.\r\nTry to redefine range and/or increase accuracy.\r\n";
+    out +=
+        "No critical points found for this function.\r\nTry to redefine range and/or increase accuracy.\r\n";
   } else {
     for (const std::string& item : found) {
       if (item != "Y =  ; X = ") out += item + "\r\n";

@@ -42,8 +42,8 @@ class CriticalPoints {
   CriticalPoints(expr::FormulaControl& engine, platform::MessageBox& messages)
       : engine_(engine), messages_(messages), rows_(engine, messages) {}
 
-  std::string minText = "-2";  // `txtMin`
-  std::string maxText = "2";   // `txtMax`
+  std::string minText = "-2";     // `txtMin`
+  std::string maxText = "2";      // `txtMax`
   bool increaseAccuracy = false;  // `Check1`
 
   // "Calculate" on the active window's function. The function as searched

@@ -12,10 +12,10 @@ namespace velmora::tools {
 
 const std::array<std::string_view, 40>& EvaluatorTool::FunctionNames() {
   static constexpr std::array<std::string_view, 40> kNames = {
-      "Exp",   "Ln",    "Log",   "Sqr",   "Sin",   "Cos",   "Tan",   "Cot",   "Sec",  "Csc",
-      "Rad",   "Deg",   "Asin",  "Acos",  "Atan",  "Acot",  "Asec",  "Acsc",  "HSin", "HCos",
-      "HTan",  "HSec",  "HCsc",  "HCot",  "HAsin", "HAcos", "HAtan", "HAsec", "HAcsc", "HAcot",
-      "Stef",  "Four",  "Gamma", "Beta",  "Blanc", "Abs",   "Int",   "Fac",   "Cel",  "Fah"};
+      "Exp",  "Ln",   "Log",   "Sqr",  "Sin",   "Cos",   "Tan",   "Cot",   "Sec",   "Csc",
+      "Rad",  "Deg",  "Asin",  "Acos", "Atan",  "Acot",  "Asec",  "Acsc",  "HSin",  "HCos",
+      "HTan", "HSec", "HCsc",  "HCot", "HAsin", "HAcos", "HAtan", "HAsec", "HAcsc", "HAcot",
+      "Stef", "Four", "Gamma", "Beta", "Blanc", "Abs",   "Int",   "Fac",   "Cel",   "Fah"};
   return kNames;
 }
 

@@ -20,7 +20,8 @@ class EvaluatorTool {
   // At and beyond this a result shows "Error".
   static constexpr double kLargestResult = 1e38 * 1.23456789012346;
 
-  EvaluatorTool(expr::FormulaControl& engine, platform::MessageBox& messages) : engine_(engine), messages_(messages) {}
+  EvaluatorTool(expr::FormulaControl& engine, platform::MessageBox& messages)
+      : engine_(engine), messages_(messages) {}
 
   std::string expression;  // `Text1`
   std::string xValue;      // `Text2`

@@ -100,7 +100,8 @@ void IntegralTool::Derivative() {
 
 bool IntegralTool::SegmentsChanged() {
   if (expr::TextToNumber(segments) <= kMaxSegments) return false;
-  messages_.Show("Please, define step in range [200 ; 2000].", "Invalid Input", platform::MsgIcon::Information);
+  messages_.Show("Please, define step in range [200 ; 2000].", "Invalid Input",
+                 platform::MsgIcon::Information);
   segments = " 2000";
   return true;
 }

@@ -21,17 +21,18 @@ class IntegralTool {
   // A shown result beyond this reads "Error".
   static constexpr double kLargestResult = 1e37;
 
-  IntegralTool(expr::FormulaControl& engine, platform::MessageBox& messages) : engine_(engine), messages_(messages) {}
+  IntegralTool(expr::FormulaControl& engine, platform::MessageBox& messages)
+      : engine_(engine), messages_(messages) {}
 
   // The boxes as typed.
-  std::string integrand;    // `Text4`
-  std::string minText;      // `txtMin`
-  std::string maxText;      // `txtMax`
+  std::string integrand;         // `Text4`
+  std::string minText;           // `txtMin`
+  std::string maxText;           // `txtMax`
   std::string segments = "256";  // `txtkorak`
-  bool simpson = true;      // `Option1(1)`; false: `Option1(0)`, the trapezoidal rule
-  std::string derivand;     // `Text7`
-  std::string point;        // `Text8`
-  int decimals = 6;         // `Combo1`
+  bool simpson = true;           // `Option1(1)`; false: `Option1(0)`, the trapezoidal rule
+  std::string derivand;          // `Text7`
+  std::string point;             // `Text8`
+  int decimals = 6;              // `Combo1`
 
   // "Integral" and "Average": the result goes to ResultText (`Text10`) and
   // its caption to ResultCaption (`lblintg`).

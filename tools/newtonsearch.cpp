@@ -42,7 +42,8 @@ double NewtonSearch::NewtonSeries(double start, const std::string& expression) {
     newton_.SetFormula("diff(" + expression + ")");
     expr::ResumeNext([&] { d = newton_.Result(); });
     newton_.SetFormula("PopAll()");
-    expr::ResumeNext([&] { next = expr::CheckedSub(x, expr::CheckedDiv(expr::Checked(f), expr::Checked(d))); });
+    expr::ResumeNext(
+        [&] { next = expr::CheckedSub(x, expr::CheckedDiv(expr::Checked(f), expr::Checked(d))); });
     expr::ResumeNext([&] { x = expr::RoundTo(next, kIterateDecimals); });
   }
   return next;

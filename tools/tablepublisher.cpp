@@ -108,8 +108,9 @@ std::string TablePublisher::HtmlPage(const graph::ValueTable& table, const Table
       if (col == 3 && text.empty()) continue;
       if (row == 0) {
         line("  <td width='" + width + "%' align='center'" + (col == 0 ? " " : "  ") +
-             "bgcolor='#D6D6D6' style='border-style: outset; border-width: 3'><font face='Arial' size='2'><b>" + text +
-             "</b></font></td>");
+             "bgcolor='#D6D6D6' style='border-style: outset; border-width: 3'><font face='Arial' "
+             "size='2'><b>" +
+             text + "</b></font></td>");
       } else {
         line("  <td width='" + width + "%'><font face='Arial' size='2'>" + text + "</font></td>");
       }
@@ -136,8 +137,8 @@ std::string TablePublisher::Publish(const graph::ValueTable& table, const TableH
   const std::string& path = *chosen;
   std::error_code error;
   if (std::filesystem::exists(path, error) && !error) {
-    if (messages_.Show(path + " already exists.\r\nDo you want to replace it?", "Save As", platform::MsgIcon::None,
-                       platform::MsgButtons::YesNo) != platform::MsgResult::Yes) {
+    if (messages_.Show(path + " already exists.\r\nDo you want to replace it?", "Save As",
+                       platform::MsgIcon::None, platform::MsgButtons::YesNo) != platform::MsgResult::Yes) {
       return {};
     }
   }

@@ -14,7 +14,7 @@ namespace velmora::tools {
 // evaluated.
 struct TableHead {
   bool polar = false;
-  std::string yLabel;  // `labY`, "Y (X) =" ...
+  std::string yLabel;    // `labY`, "Y (X) =" ...
   std::string function;  // `txtY`
   std::string xmin;      // `txtdole`
   std::string xmax;      // `txtgore`

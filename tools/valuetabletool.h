@@ -21,14 +21,14 @@ class ValueTableTool {
   }
 
   // The boxes as typed.
-  std::string y;            // `txtY`
-  std::string x = "K";      // `txtX`
-  std::string xmin = "-5";  // `txtdole`
-  std::string xmax = "5";   // `txtgore`
-  std::string step = "1";   // `Combo1`
-  std::string decimals = "3";  // `txtDec`
-  std::vector<std::string> yList;      // the list of `txtY`
-  std::vector<std::string> xList;      // the list of `txtX`
+  std::string y;                        // `txtY`
+  std::string x = "K";                  // `txtX`
+  std::string xmin = "-5";              // `txtdole`
+  std::string xmax = "5";               // `txtgore`
+  std::string step = "1";               // `Combo1`
+  std::string decimals = "3";           // `txtDec`
+  std::vector<std::string> yList;       // the list of `txtY`
+  std::vector<std::string> xList;       // the list of `txtX`
   std::vector<std::string> parametric;  // `cmbR3`: the Y texts of parametric functions
 
   // The function type, 1 Cartesian, 2 parametric, 3 polar (`optFunkcije`).

@@ -19,7 +19,8 @@ std::string Text(double value) { return expr::NumberToText(value); }
 
 std::string ZeroTool::Expression() const {
   if (kind_ != ZeroKind::Intersection) return expr::ToolTextForm(inputs_.function);
-  if (inputs_.function.empty() || inputs_.function2.empty() || inputs_.function == inputs_.function2) return {};
+  if (inputs_.function.empty() || inputs_.function2.empty() || inputs_.function == inputs_.function2)
+    return {};
   return expr::ToolTextForm(inputs_.function + "-(" + inputs_.function2 + ")");
 }
 
@@ -43,15 +44,18 @@ void ZeroTool::Calculate(const NewtonSearch::Pulse& pulse) {
     return;
   }
   if (inputs_.target.empty() || inputs_.xmin.empty() || inputs_.xmax.empty()) {
-    messages_.Show(kind_ == ZeroKind::PointEvaluate ? "Value for Y or range not defined" : "Range not defined",
-                   kTitle, platform::MsgIcon::Information);
+    messages_.Show(
+        kind_ == ZeroKind::PointEvaluate ? "Value for Y or range not defined" : "Range not defined", kTitle,
+        platform::MsgIcon::Information);
     return;
   }
   double xmin = 0;
   double xmax = 0;
   double target = 0;
-  expr::ResumeNext([&] { xmin = expr::RoundTo(search_.Evaluate(inputs_.xmin), NewtonSearch::kBoundDecimals); });
-  expr::ResumeNext([&] { xmax = expr::RoundTo(search_.Evaluate(inputs_.xmax), NewtonSearch::kBoundDecimals); });
+  expr::ResumeNext(
+      [&] { xmin = expr::RoundTo(search_.Evaluate(inputs_.xmin), NewtonSearch::kBoundDecimals); });
+  expr::ResumeNext(
+      [&] { xmax = expr::RoundTo(search_.Evaluate(inputs_.xmax), NewtonSearch::kBoundDecimals); });
   expr::ResumeNext([&] { target = search_.Evaluate(inputs_.target); });
   const std::string scanned = NewtonSearch::ScannedExpression(expression, target);
   NewtonSearch::Candidates candidates = search_.Scan(xmin, xmax, ScanStep(), scanned, pulse);
@@ -61,8 +65,9 @@ void ZeroTool::Calculate(const NewtonSearch::Pulse& pulse) {
       case ZeroKind::Zeros: Append("Zeros not found in range " + range); break;
       case ZeroKind::Intersection: Append("Intersections not found in range " + range); break;
       case ZeroKind::PointEvaluate:
-        messages_.Show("Values for Y not found in range " + range + "\r\nPlease try to redefine range or search value.",
-                       kTitle, platform::MsgIcon::None);
+        messages_.Show(
+            "Values for Y not found in range " + range + "\r\nPlease try to redefine range or search value.",
+            kTitle, platform::MsgIcon::None);
         Append("NotFound in range " + range);
         break;
     }

@@ -16,13 +16,13 @@ enum class ZeroKind { Zeros, Intersection, PointEvaluate };
 
 // The boxes of the window as typed.
 struct ZeroInputs {
-  std::string function;   // `Text1`
-  std::string function2;  // `Text7`, Intersection only
-  bool rangeMode = false;  // `Option1(1)`: the range scan (Point Evaluate: solve for X)
-  std::string guess;       // `Text2`: the guess, or Point Evaluate's value for X
-  std::string xmin;        // `Text5`
-  std::string xmax;        // `Text6`
-  std::string target = "0";  // `Text4`: hidden and "0" except in Point Evaluate
+  std::string function;           // `Text1`
+  std::string function2;          // `Text7`, Intersection only
+  bool rangeMode = false;         // `Option1(1)`: the range scan (Point Evaluate: solve for X)
+  std::string guess;              // `Text2`: the guess, or Point Evaluate's value for X
+  std::string xmin;               // `Text5`
+  std::string xmax;               // `Text6`
+  std::string target = "0";       // `Text4`: hidden and "0" except in Point Evaluate
   bool increaseAccuracy = false;  // `Check1`
 };
 
@@ -31,7 +31,8 @@ struct ZeroInputs {
 // messages of empty inputs go through the message box.
 class ZeroTool {
  public:
-  ZeroTool(ZeroKind kind, expr::FormulaControl& newton, expr::FormulaControl& other, platform::MessageBox& messages)
+  ZeroTool(ZeroKind kind, expr::FormulaControl& newton, expr::FormulaControl& other,
+           platform::MessageBox& messages)
       : kind_(kind), newton_(newton), other_(other), search_(newton, other), messages_(messages) {}
 
   ZeroKind Kind() const { return kind_; }

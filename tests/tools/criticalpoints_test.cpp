@@ -1,4 +1,6 @@
 // Critical Points: the coarse and the fine pass, and the log they leave.
+#include "tools/criticalpoints.h"
+
 #include <gtest/gtest.h>
 
 #include <memory>
@@ -7,7 +9,6 @@
 
 #include "expr/formulacontrol.h"
 #include "tests/support/recordingmessagebox.h"
-#include "tools/criticalpoints.h"
 
 namespace velmora::tools {
 namespace {
@@ -61,7 +62,8 @@ TEST(CriticalPoints, AFlatLineLosesAccuracy) {
   EXPECT_EQ(f.Run("0", "-10", "10"), "\r\nRange: (-10; 10)\r\nStoped by user.\r\n\r\n");
   ASSERT_EQ(f.boxes.Boxes().size(), 1u);
   EXPECT_EQ(f.boxes.Boxes()[0].text,
-            "Lost accuracy in approximation.\r\nPlease define smaller range around the expected critical points and "
+            "Lost accuracy in approximation.\r\nPlease define smaller range around the expected critical "
+            "points and "
             "try again.");
   EXPECT_EQ(f.boxes.Boxes()[0].icon, platform::MsgIcon::Information);
   EXPECT_TRUE(f.tool.LostAccuracy());

@@ -1,4 +1,6 @@
 // The Evaluator window's logic over the formula engine.
+#include "tools/evaluatortool.h"
+
 #include <gtest/gtest.h>
 
 #include <memory>
@@ -6,7 +8,6 @@
 
 #include "expr/formulacontrol.h"
 #include "tests/support/recordingmessagebox.h"
-#include "tools/evaluatortool.h"
 
 namespace velmora::tools {
 namespace {

@@ -1,4 +1,6 @@
 // The Integral - Derivative window's logic over the formula engine.
+#include "tools/integraltool.h"
+
 #include <gtest/gtest.h>
 
 #include <memory>
@@ -9,7 +11,6 @@
 #include "expr/formulacontrol.h"
 #include "tests/support/recordingmessagebox.h"
 #include "tests/support/scriptedformula.h"
-#include "tools/integraltool.h"
 
 namespace velmora::tools {
 namespace {
@@ -61,13 +62,13 @@ TEST(IntegralTool, PushesInTheirOrderAndTheAverageTurnsItsBoundsRound) {
   tool.minText = "0";
   tool.maxText = "2";
   tool.Integral();
-  const std::vector<std::string> integral = {"0", "PopAll()", "2", "PopAll()", "Push(256)", "Push(0)", "Push(2)",
-                                             "Intg((x))", "PopAll()"};
+  const std::vector<std::string> integral = {"0",       "PopAll()", "2",         "PopAll()", "Push(256)",
+                                             "Push(0)", "Push(2)",  "Intg((x))", "PopAll()"};
   EXPECT_EQ(engine.Sent(), integral);
   engine.ClearSent();
   tool.Average();
-  const std::vector<std::string> average = {"0", "PopAll()", "2", "PopAll()", "Push(256)", "Push(2)", "Push(0)",
-                                            "Intg((0.5)*((x)))", "PopAll()"};
+  const std::vector<std::string> average = {
+      "0", "PopAll()", "2", "PopAll()", "Push(256)", "Push(2)", "Push(0)", "Intg((0.5)*((x)))", "PopAll()"};
   EXPECT_EQ(engine.Sent(), average);
   EXPECT_EQ(tool.ResultCaption(), "Average:");
 }

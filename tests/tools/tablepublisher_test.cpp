@@ -1,5 +1,7 @@
 // The text form and the HTML page of a value table, and the publishing
 // command with its dialog, question and preview.
+#include "tools/tablepublisher.h"
+
 #include <gtest/gtest.h>
 
 #include <cstdio>
@@ -12,7 +14,6 @@
 #include "expr/formulacontrol.h"
 #include "tests/support/filebytes.h"
 #include "tests/support/recordingmessagebox.h"
-#include "tools/tablepublisher.h"
 #include "tools/valuetabletool.h"
 
 namespace velmora::tools {
@@ -40,7 +41,8 @@ TEST(TableText, CartesianRowsInBracketsWithTabsByLength) {
 }
 
 TEST(TableText, PolarRowsCountTwoCharacters) {
-  const graph::ValueTable table = Table({{"\xC3\xB8", "R", "X", "Y"}, {"0", "1", "1", "1"}, {"pi/2", "1", "0", "0"}});
+  const graph::ValueTable table =
+      Table({{"\xC3\xB8", "R", "X", "Y"}, {"0", "1", "1", "1"}, {"pi/2", "1", "0", "0"}});
   TableHead head = Head();
   head.polar = true;
   head.function = "1";
@@ -88,7 +90,8 @@ const char* const kPage =
     "  </div>\r\n"
     "  <p>&nbsp;</p>\r\n"
     "  <hr noshade size='1'>\r\n"
-    "    <p><font face='Arial' size='1'><a href='https://www.velmora.org/' target='_blank'>Velmora</a></font></p>\r\n"
+    "    <p><font face='Arial' size='1'><a href='https://www.velmora.org/' "
+    "target='_blank'>Velmora</a></font></p>\r\n"
     "  </body>\r\n"
     "</html>\r\n"
     "\r\n";
@@ -103,9 +106,10 @@ TEST(TablePage, FourColumnsAreAQuarterWideAndTheAngleSignIsWindows1252) {
   TableHead head = Head();
   head.polar = true;
   const std::string page = TablePublisher::HtmlPage(table, head);
-  EXPECT_NE(page.find("<td width='25%' align='center' bgcolor='#D6D6D6' style='border-style: outset; border-width: "
-                      "3'><font face='Arial' size='2'><b>\xF8</b>"),
-            std::string::npos);
+  EXPECT_NE(
+      page.find("<td width='25%' align='center' bgcolor='#D6D6D6' style='border-style: outset; border-width: "
+                "3'><font face='Arial' size='2'><b>\xF8</b>"),
+      std::string::npos);
   EXPECT_EQ(page.find("\xC3"), std::string::npos) << "no UTF-8 left";
   EXPECT_EQ(page.find("<font face='Arial' size='2'></font>"), std::string::npos)
       << "an empty fourth cell is not written";

@@ -1,10 +1,10 @@
 // The two clean-ups of the tools' hidden lists.
+#include "tools/toollists.h"
+
 #include <gtest/gtest.h>
 
 #include <string>
 #include <vector>
-
-#include "tools/toollists.h"
 
 namespace velmora::tools {
 namespace {
@@ -43,7 +43,9 @@ TEST(RemoveNearValues, KeepsOneOfAGroupAndSkipsAfterARemoval) {
       {{"0", "0.3"}, {"0", "0"}, "0.3 itself is near"},
       {{"1", "1.3"}, {"1", "1.3"}, "1.3 - 1 is a hair above 0.3 in binary: both stay"},
       {{"1", "1.31"}, {"1", "1.31"}, "beyond 0.3 both stay"},
-      {{"0", "0.1", "-0.1"}, {"-0.1", "0"}, "a zero is seen and goes to its neighbour, and a 0 is added at the end"},
+      {{"0", "0.1", "-0.1"},
+       {"-0.1", "0"},
+       "a zero is seen and goes to its neighbour, and a 0 is added at the end"},
       {{"1", "1.1", "1.2"}, {"1.2"}, "1.2 is passed over after 1.1 goes, and its own sweep removes the 1"},
       {{"2", "1", "1.2", "1.1"}, {"2", "1.1"}, "the bounds stay: an index beyond the end does nothing"},
       {{"1", "1", "1.1"}, {"1", "1"}, "equal values are not near: exact copies are another clean-up's"},

@@ -1,5 +1,7 @@
 // The Value Tables window's logic: its boxes, lists and commands over the
 // shared row loops.
+#include "tools/valuetabletool.h"
+
 #include <gtest/gtest.h>
 
 #include <memory>
@@ -8,7 +10,6 @@
 
 #include "expr/formulacontrol.h"
 #include "tests/support/recordingmessagebox.h"
-#include "tools/valuetabletool.h"
 
 namespace velmora::tools {
 namespace {

@@ -1,6 +1,9 @@
 // Zeros, Intersection and Point Evaluate over the Newton search.
+#include "tools/zerotool.h"
+
 #include <gtest/gtest.h>
 
+#include <limits>
 #include <memory>
 #include <string>
 #include <vector>
@@ -9,7 +12,6 @@
 #include "tests/support/recordingmessagebox.h"
 #include "tests/support/scriptedformula.h"
 #include "tools/newtonsearch.h"
-#include "tools/zerotool.h"
 
 namespace velmora::tools {
 namespace {
@@ -61,8 +63,8 @@ TEST(NewtonSearch, TheDerivativeIsPushedAsTheEngineWantsIt) {
   testing::ScriptedFormula engine([](std::string_view) -> std::optional<double> { return 2.0; });
   NewtonSearch search(engine, engine);
   search.NewtonSeries(1.5, "(x)^2");
-  const std::vector<std::string> first = {"(1.5)^2", "PopAll()", "Push(2000)", "Push(1.5)", "diff((x)^2)",
-                                          "PopAll()"};
+  const std::vector<std::string> first = {"(1.5)^2",   "PopAll()",    "Push(2000)",
+                                          "Push(1.5)", "diff((x)^2)", "PopAll()"};
   EXPECT_EQ(std::vector<std::string>(engine.Sent().begin(), engine.Sent().begin() + 6), first);
 }
 
@@ -80,11 +82,13 @@ TEST(Zeros, FromAGuess) {
     const char* why;
   };
   const Case cases[] = {
-      {"x^2", "0", "Zero:  X = 0\r\n", "a zero derivative at the start: the step fails and the residual decides"},
+      {"x^2", "0", "Zero:  X = 0\r\n",
+       "a zero derivative at the start: the step fails and the residual decides"},
       {"x^2-2", "1", "Zero:  X = 1.41421\r\n", "five decimals without increased accuracy"},
       {"0.004", "5", "Zero:  X = 0\r\n", "|f| = 0.004 counts as a zero"},
       {"0.006", "5", "Zero not found near the X = 5.\r\n", "|f| = 0.006 does not"},
-      {"x^2+1", "2/4", "Zero not found near the X = 0.5.\r\n", "the guess is an expression, shown as its value"},
+      {"x^2+1", "2/4", "Zero not found near the X = 0.5.\r\n",
+       "the guess is an expression, shown as its value"},
   };
   for (const Case& c : cases) EXPECT_EQ(Guess(ZeroKind::Zeros, c.function, c.guess), c.log) << c.why;
 }
@@ -125,10 +129,12 @@ TEST(Zeros, OverARange) {
       {"sin(x)", "-1", "1", "Zero:  X = 0\r\n", "the 0 is kept by the zero seen"},
       {"(x-1)*(x-1.2)", "0", "2", "Zero:  X = 1\r\n", "zeros closer than 0.3 merge into one"},
       {"x-3", "0", "1", "", "a zero reached from the range but outside it is not listed"},
-      {"x^2+1", "0.04", "1", "Zeros not found in range [0; 1]\r\n", "bounds are rounded to one decimal first"},
+      {"x^2+1", "0.04", "1", "Zeros not found in range [0; 1]\r\n",
+       "bounds are rounded to one decimal first"},
       {"sin(x)", "-4", "4", "Zero:  X = -3.14159\r\nZero:  X = 0\r\nZero:  X = 3.14159\r\n",
        "the 0 added at the end is a duplicate of the one kept in place"},
-      {"x*(x-0.2)", "-1", "1", "Zero:  X = 0\r\n", "a 0 beside a near value: kept by the zero seen, listed last"},
+      {"x*(x-0.2)", "-1", "1", "Zero:  X = 0\r\n",
+       "a 0 beside a near value: kept by the zero seen, listed last"},
   };
   for (const Case& c : cases) EXPECT_EQ(Range(ZeroKind::Zeros, c.function, c.xmin, c.xmax), c.log) << c.why;
 }
@@ -151,7 +157,8 @@ TEST(Intersection, TheTextsOfItsResults) {
   EXPECT_EQ(Range(ZeroKind::Intersection, "x^2", "-3", "3", "x+2"),
             "Intersection: X = -1\r\nIntersection: X = 2\r\n")
       << "one blank in the range form";
-  EXPECT_EQ(Range(ZeroKind::Intersection, "x", "-3", "3", "x+1"), "Intersections not found in range [-3; 3]\r\n")
+  EXPECT_EQ(Range(ZeroKind::Intersection, "x", "-3", "3", "x+1"),
+            "Intersections not found in range [-3; 3]\r\n")
       << "parallel lines";
 }
 
@@ -168,6 +175,26 @@ TEST(PointEvaluate, SolveForY) {
       {"x*1E+38", "2", "Error ; X = 2\r\n", "above 1.23456789012346E+38 Error"},
   };
   for (const Case& c : cases) EXPECT_EQ(Guess(ZeroKind::PointEvaluate, c.function, c.x), c.log) << c.why;
+}
+
+TEST(PointEvaluate, ANonFiniteYShowsItsSpellingNotError) {
+  // The program's engine faults on 1/0; an engine that answers with an
+  // infinity shows its spelling in the log.
+  testing::ScriptedFormula engine([](std::string_view formula) -> std::optional<double> {
+    if (formula == "0") return 0.0;
+    return std::numeric_limits<double>::infinity();
+  });
+  testing::RecordingMessageBox boxes;
+  ZeroTool tool(ZeroKind::PointEvaluate, engine, engine, boxes);
+  tool.Inputs().function = "1/x";
+  tool.Inputs().guess = "0";
+  tool.Calculate();
+  EXPECT_EQ(tool.Log(), "1.#INF ; X = 0\r\n");
+}
+
+TEST(PointEvaluate, AValueTheEngineCannotGiveLeavesTheEarlierOne) {
+  EXPECT_EQ(Guess(ZeroKind::PointEvaluate, "1/x", "0"), " Y = 0 ; X = 0\r\n")
+      << "the statement is skipped and Y keeps its empty value";
 }
 
 TEST(PointEvaluate, SolveForXKeepsTheTarget) {

@@ -55,15 +55,18 @@ FrmNjutn::FrmNjutn(QWidget* owner, ToolServices services, ZeroKind kind)
   const bool intersection = kind == ZeroKind::Intersection;
   const bool point = kind == ZeroKind::PointEvaluate;
   setWindowTitle(intersection ? QStringLiteral("Intersection")
-                              : point ? QStringLiteral("Point Evaluate") : QStringLiteral("Zeros"));
+                 : point      ? QStringLiteral("Point Evaluate")
+                              : QStringLiteral("Zeros"));
   setObjectName(intersection ? QStringLiteral("frmNjutnDve")
-                             : point ? QStringLiteral("frmEvalPoint") : QStringLiteral("frmNjutn"));
+                : point      ? QStringLiteral("frmEvalPoint")
+                             : QStringLiteral("frmNjutn"));
 
   text1_ = FunctionBox(this);
   text7_ = FunctionBox(this);
-  const char* optionCaptions[3][2] = {{"Enter &Guess for zero: ", "&Find zeros in range:"},
-                                      {"Enter &Guess for Intersection:", "&Find in range:"},
-                                      {"Solve for Y (enter value for X):", "Solve for X (enter value for Y):"}};
+  const char* optionCaptions[3][2] = {
+      {"Enter &Guess for zero: ", "&Find zeros in range:"},
+      {"Enter &Guess for Intersection:", "&Find in range:"},
+      {"Solve for Y (enter value for X):", "Solve for X (enter value for Y):"}};
   const int k = intersection ? 1 : point ? 2 : 0;
   for (int i = 0; i < 2; ++i) {
     options_[i] = new QRadioButton(QString::fromUtf8(optionCaptions[k][i]), this);
@@ -85,7 +88,8 @@ FrmNjutn::FrmNjutn(QWidget* owner, ToolServices services, ZeroKind kind)
 
   auto* grid = new QGridLayout;
   int row = 0;
-  grid->addWidget(new QLabel(intersection ? QStringLiteral("Function 1:") : QStringLiteral("Function:"), this), row, 0);
+  grid->addWidget(
+      new QLabel(intersection ? QStringLiteral("Function 1:") : QStringLiteral("Function:"), this), row, 0);
   grid->addWidget(new QLabel(QStringLiteral("Y(X) ="), this), row + 1, 0);
   grid->addWidget(text1_, row + 1, 1, 1, 3);
   row += 2;

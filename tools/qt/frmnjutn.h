@@ -5,8 +5,8 @@
 #include <QWidget>
 
 #include "expr/formulacontrol.h"
-#include "tools/zerotool.h"
 #include "tools/qt/toolservices.h"
+#include "tools/zerotool.h"
 
 class QCheckBox;
 class QComboBox;

@@ -43,7 +43,8 @@ FrmTabela::FrmTabela(QWidget* owner, ToolServices services)
   setWindowTitle(QStringLiteral("Value Tables"));
   setObjectName(QStringLiteral("frmTabela"));
   if (services_.files != nullptr) {
-    publisher_ = std::make_unique<tools::TablePublisher>(*services_.files, *services_.messages, services_.shell);
+    publisher_ =
+        std::make_unique<tools::TablePublisher>(*services_.files, *services_.messages, services_.shell);
   }
 
   toolbar_ = new QToolBar(this);
@@ -61,9 +62,12 @@ FrmTabela::FrmTabela(QWidget* owner, ToolServices services)
   QAction* copy = add("Copy", "Copy", "Copy Table", [this] { CopyTable(); });
   auto* copyMenu = new QMenu(this);
   copyMenu->addAction(QStringLiteral("&Copy Table"), this, &FrmTabela::CopyTable)->setObjectName("copy1");
-  copyMenu->addAction(QStringLiteral("C&opy Cell"), this, [this] {
-                if (grid_->currentItem() != nullptr) PutText(grid_->currentItem()->text());
-              })->setObjectName("copy2");
+  copyMenu
+      ->addAction(QStringLiteral("C&opy Cell"), this,
+                  [this] {
+                    if (grid_->currentItem() != nullptr) PutText(grid_->currentItem()->text());
+                  })
+      ->setObjectName("copy2");
   copy->setMenu(copyMenu);
   if (auto* button = qobject_cast<QToolButton*>(toolbar_->widgetForAction(copy))) {
     button->setPopupMode(QToolButton::MenuButtonPopup);
@@ -251,9 +255,12 @@ void FrmTabela::ShowTable() {
 }
 
 tools::TableHead FrmTabela::Head() const {
-  return tools::TableHead{tool_->Type() == 3,          tool_->YLabel(),
-                          ToStdString(txtY_->currentText()), ToStdString(txtdole_->text()),
-                          ToStdString(txtgore_->text()),     ToStdString(combo1_->currentText())};
+  return tools::TableHead{tool_->Type() == 3,
+                          tool_->YLabel(),
+                          ToStdString(txtY_->currentText()),
+                          ToStdString(txtdole_->text()),
+                          ToStdString(txtgore_->text()),
+                          ToStdString(combo1_->currentText())};
 }
 
 void FrmTabela::CopyTable() {

@@ -5,9 +5,9 @@
 #include <QWidget>
 
 #include "expr/formulacontrol.h"
+#include "tools/qt/toolservices.h"
 #include "tools/tablepublisher.h"
 #include "tools/valuetabletool.h"
-#include "tools/qt/toolservices.h"
 
 class QAction;
 class QComboBox;

@@ -39,8 +39,8 @@ FrmTast::FrmTast(QWidget* owner, ToolServices services)
 
   toolbar_ = new QToolBar(this);
   toolbar_->addAction(QStringLiteral("Clear"), this, [this] {
-    if (services_.messages->Show("Clear All?", "Velmora", platform::MsgIcon::Question, platform::MsgButtons::YesNo) ==
-        platform::MsgResult::Yes) {
+    if (services_.messages->Show("Clear All?", "Velmora", platform::MsgIcon::Question,
+                                 platform::MsgButtons::YesNo) == platform::MsgResult::Yes) {
       ClearAll();
     }
   });

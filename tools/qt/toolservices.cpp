@@ -1,12 +1,12 @@
 #include "tools/qt/toolservices.h"
 
+#include <memory>
+
 #include <QClipboard>
 #include <QComboBox>
+#include <QGuiApplication>
 #include <QLineEdit>
 #include <QTimer>
-
-#include <memory>
-#include <QGuiApplication>
 
 #include "platform/qt/qtstring.h"
 

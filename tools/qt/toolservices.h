@@ -11,7 +11,6 @@
 #include "platform/shellopen.h"
 #include "platform/toolwindows.h"
 
-
 class QComboBox;
 class QObject;
 

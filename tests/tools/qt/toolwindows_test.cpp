@@ -155,7 +155,8 @@ TEST(FrmTabela, CalculatesTheActiveFunctionAndCopiesTheText) {
   EXPECT_TRUE(w.Button("Copy")->isEnabled());
   EXPECT_FALSE(w.Button("Save")->isEnabled()) << "MathPad is missing";
   w.Button("Copy")->trigger();
-  EXPECT_TRUE(QGuiApplication::clipboard()->text().startsWith("Function: Y = x^2-1\r\nRange:    Xmin = -5  Xmax = 5\r\n"));
+  EXPECT_TRUE(QGuiApplication::clipboard()->text().startsWith(
+      "Function: Y = x^2-1\r\nRange:    Xmin = -5  Xmax = 5\r\n"));
 }
 
 TEST(FrmTabela, TheTableGoesToMathPadInCourierNew) {
