@@ -9,6 +9,7 @@
 #include "expr/formulacontrol.h"
 #include "expr/numtext.h"
 #include "tools/criticalpoints.h"
+#include "tools/derivativescan.h"
 #include "tools/evaluatortool.h"
 #include "tools/integraltool.h"
 #include "tools/tablepublisher.h"
@@ -241,12 +242,24 @@ int RunIntegral(const std::vector<std::string>& args, std::istream&, std::ostrea
 
 int RunCritical(const std::vector<std::string>& args, std::istream&, std::ostream& out, std::ostream& err) {
   Words w;
-  if (!Parse(args, {}, {"--accurate"}, w, err) || (w.plain.size() != 1 && w.plain.size() != 3)) {
-    err << "usage: velmora-cli critical FUNCTION [XMIN XMAX] [--accurate]\n";
+  if (!Parse(args, {"--zoom", "--places"}, {"--accurate", "--scan"}, w, err) ||
+      (w.plain.size() != 1 && w.plain.size() != 3) || (w.Flag("--scan") && w.plain.size() != 3)) {
+    err << "usage: velmora-cli critical FUNCTION [XMIN XMAX] [--accurate]\n"
+           "       velmora-cli critical FUNCTION XMIN XMAX --scan [--zoom Z] [--places N]\n";
     return kUsage;
   }
   StreamMessageBox messages(out, "message: ");
   const auto engine = expr::MakeFormulaControl();
+  if (w.Flag("--scan")) {
+    tools::DerivativeScan scan(*engine);
+    scan.Run(w.plain[0], expr::TextToNumber(w.plain[1]), expr::TextToNumber(w.plain[2]),
+             expr::TextToNumber(w.Get("--zoom", "30")),
+             static_cast<int>(expr::TextToNumber(w.Get("--places", "2"))));
+    out << "samples=" << scan.Samples() << '\n';
+    for (const std::string& x : scan.Rising()) out << "rising=" << x << '\n';
+    for (const std::string& x : scan.Falling()) out << "falling=" << x << '\n';
+    return 0;
+  }
   tools::CriticalPoints tool(*engine, messages);
   if (w.plain.size() == 3) {
     tool.minText = w.plain[1];

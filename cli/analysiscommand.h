@@ -24,6 +24,8 @@ int RunPoint(const std::vector<std::string>& args, std::istream& in, std::ostrea
 // velmora-cli integral --derivative FUNCTION POINT [--accuracy N]
 int RunIntegral(const std::vector<std::string>& args, std::istream& in, std::ostream& out, std::ostream& err);
 // velmora-cli critical FUNCTION [XMIN XMAX] [--accurate]
+// velmora-cli critical FUNCTION XMIN XMAX --scan [--zoom Z] [--places N]: the
+// graph window's derivative scan, one sample a pixel column
 int RunCritical(const std::vector<std::string>& args, std::istream& in, std::ostream& out, std::ostream& err);
 // velmora-cli evaluate: one expression a line, optionally a tab and a value
 // for X; prints the result label, a tab and the history line.
