@@ -2,6 +2,8 @@
 // their controls, the graph window a fake tool target.
 #include <gtest/gtest.h>
 
+#include <filesystem>
+
 #include <QAction>
 #include <QApplication>
 #include <QCheckBox>
@@ -18,10 +20,12 @@
 #include <QTableWidget>
 #include <QTest>
 #include <QTextEdit>
+#include <QTimer>
 
 #include "platform/evaluatortarget.h"
 #include "platform/mathpadtarget.h"
 #include "tests/support/fakegraphtarget.h"
+#include "tests/support/filebytes.h"
 #include "tests/support/recordingmessagebox.h"
 #include "tools/qt/frmanalizanew.h"
 #include "tools/qt/frmintav.h"
@@ -58,6 +62,30 @@ class FakeTools final : public platform::ToolWindows {
   std::vector<platform::ToolWindow> shown;
 };
 
+class OneFileDialog final : public platform::FileDialog {
+ public:
+  std::optional<std::string> Open(const std::string&, const std::string&, const std::string&) override {
+    return std::nullopt;
+  }
+  std::optional<std::string> Save(const std::string& title, const std::string& filter, const std::string&,
+                                  const std::string&) override {
+    asked.push_back(title + "|" + filter);
+    return answer;
+  }
+  std::optional<std::string> answer;
+  std::vector<std::string> asked;
+};
+
+class RecordingLauncher final : public platform::ShellLauncher {
+ public:
+  int Execute(const std::string& file, const std::string&, const std::string&, const std::string& verb,
+              bool) override {
+    opened.push_back(verb + " " + file);
+    return 42;
+  }
+  std::vector<std::string> opened;
+};
+
 struct Fixture {
   Fixture() {
     graph.y = "x^2-1";
@@ -70,12 +98,16 @@ struct Fixture {
     ToolServices s;
     s.messages = &boxes;
     s.tools = &tools;
+    s.files = &files;
+    s.shell = &shell;
     s.activeGraph = [this]() -> graph::GraphToolTarget* { return &graph; };
     return s;
   }
   testing::FakeGraphTarget graph;
   testing::RecordingMessageBox boxes;
   FakeTools tools;
+  OneFileDialog files;
+  RecordingLauncher shell;
 };
 
 TEST(FrmTast, EvaluateShowsTheLabelAndTheHistory) {
@@ -136,6 +168,49 @@ TEST(FrmTast, TheEvalPopupEnablesOnlyWindowsThatExist) {
   EXPECT_TRUE(entry("Ma&thPad")->isEnabled()) << "alive once the window exists";
   entry("Ma&thPad")->trigger();
   EXPECT_EQ(f.tools.shown, (std::vector<platform::ToolWindow>{platform::ToolWindow::MathPad}));
+}
+
+TEST(FrmTast, ClearAsksFirstAndSaveWritesTheHistory) {
+  Fixture f;
+  FrmTast w(nullptr, f.Services());
+  w.WriteText("1+1");
+  w.Evaluate();
+  const std::filesystem::path file = std::filesystem::temp_directory_path() / "velmora_history_test.txt";
+  f.files.answer = file.string();
+  w.SaveHistory();
+  EXPECT_EQ(f.files.asked, (std::vector<std::string>{"Save As|Text File (*.txt)|*.txt"}));
+  EXPECT_EQ(testing::ReadFileBytes(file), "1+1 = 2\r\n");
+  std::filesystem::remove(file);
+  f.boxes.Answer(platform::MsgResult::No);
+  QAction* clear = nullptr;
+  for (QAction* a : w.findChildren<QAction*>()) {
+    if (a->text() == "Clear") clear = a;
+  }
+  ASSERT_NE(clear, nullptr);
+  clear->trigger();
+  EXPECT_EQ(w.Rtf()->toPlainText(), "1+1 = 2\n") << "No keeps everything";
+  f.boxes.Answer(platform::MsgResult::Yes);
+  clear->trigger();
+  EXPECT_EQ(w.Rtf()->toPlainText(), "");
+  EXPECT_EQ(w.LbRezultat()->text(), "");
+  ASSERT_EQ(f.boxes.Boxes().size(), 2u);
+  EXPECT_EQ(f.boxes.Boxes()[0].text, "Clear All?");
+}
+
+TEST(FrmTabela, PublishWritesThePageAndOffersThePreview) {
+  Fixture f;
+  FrmTabela w(nullptr, f.Services());
+  w.CalculateTable();
+  const std::filesystem::path file = std::filesystem::temp_directory_path() / "velmora_publish_window.htm";
+  std::filesystem::remove(file);
+  f.files.answer = file.string();
+  f.boxes.Answer(platform::MsgResult::Yes);
+  w.RefreshButtons();
+  w.Button("HTML")->trigger();
+  EXPECT_EQ(f.files.asked, (std::vector<std::string>{"Publish Table|HTML (*.htm;*.html)|*.htm;*.html"}));
+  EXPECT_NE(testing::ReadFileBytes(file).find("<TITLE>Value Tables for x^2-1</TITLE>"), std::string::npos);
+  EXPECT_EQ(f.shell.opened, (std::vector<std::string>{"open " + file.string()}));
+  std::filesystem::remove(file);
 }
 
 TEST(FrmTabela, CalculatesTheActiveFunctionAndCopiesTheText) {
@@ -271,6 +346,17 @@ TEST(FrmAnalizaNew, ListsTheExtremaOfTheActiveFunction) {
   EXPECT_EQ(w->TxtRoot()->toPlainText(), "\nRange: (-3; 3)\nFunction: y = x^2\nMin: Y = 0 ; X = 0\n\n");
   EXPECT_TRUE(w->Pb1()->isHidden());
   delete w;
+}
+
+TEST(FrmAnalizaNew, EscapeDuringARunStopsIt) {
+  Fixture f;
+  f.graph.y = "x^2";
+  FrmAnalizaNew w(nullptr, f.Services());
+  QTimer::singleShot(0, &w, [&w] { QTest::keyClick(&w, Qt::Key_Escape); });
+  w.Calculate();
+  EXPECT_TRUE(w.StopRequested());
+  EXPECT_EQ(w.TxtRoot()->toPlainText(), "") << "a stopped run leaves no log";
+  EXPECT_TRUE(w.Pb1()->isHidden());
 }
 
 TEST(FrmAnalizaNew, AFunctionOfKIsRefused) {
