@@ -101,6 +101,19 @@ TEST(IntegralTool, SegmentsAbove2000AreCappedWithTheMessage) {
   EXPECT_EQ(f.tool.segments, "100");
 }
 
+TEST(IntegralTool, TheCappedSegmentCountIsTheOneUsed) {
+  testing::ScriptedFormula engine([](std::string_view) -> std::optional<double> { return 1.0; });
+  testing::RecordingMessageBox boxes;
+  IntegralTool tool(engine, boxes);
+  tool.integrand = "x";
+  tool.minText = "0";
+  tool.maxText = "1";
+  tool.segments = "2048";
+  tool.SegmentsChanged();
+  tool.Integral();
+  EXPECT_EQ(engine.Sent()[4], "Push(2000)");
+}
+
 TEST(IntegralTool, TheAverageOverAnEmptyRangeFailsWithTheRunTimeMessage) {
   Fixture f;
   f.tool.integrand = "x";

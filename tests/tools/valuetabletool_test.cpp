@@ -97,6 +97,33 @@ TEST(ValueTableTool, KInACartesianFunctionIsRefusedAndExpIsRead) {
   EXPECT_EQ(f.tool.Table().TextMatrix(1, 1), "1");
 }
 
+TEST(ValueTableTool, TheLimitOf300AndTheDecimals) {
+  struct Case {
+    const char* y;
+    const char* decimals;
+    const char* yCell;
+    const char* dCell;
+    const char* why;
+  };
+  const Case cases[] = {
+      {"300", "3", "300", "0", "exactly 300 is shown"},
+      {"300.0001", "4", "Error", "Error", "just above 300 is Error, and the derivative beside it too"},
+      {"x*400", "3", "0", "Error",
+       "a derivative beyond 300 beside a fine value: Error in the third column only"},
+      {"pi", "14", "3.14159265358979", "0", "14 decimals show at most 15 significant digits"},
+  };
+  for (const Case& c : cases) {
+    Fixture f;
+    f.tool.y = c.y;
+    f.tool.decimals = c.decimals;
+    f.tool.xmin = "0";
+    f.tool.xmax = "0";
+    ASSERT_TRUE(f.tool.Calculate()) << c.why;
+    EXPECT_EQ(f.tool.Table().TextMatrix(1, 1), c.yCell) << c.why;
+    EXPECT_EQ(f.tool.Table().TextMatrix(1, 2), c.dCell) << c.why;
+  }
+}
+
 TEST(ValueTableTool, TheOptionsSetTheLabelAndTheXBox) {
   Fixture f;
   f.tool.x = "cos(k)";

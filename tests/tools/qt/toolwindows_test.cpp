@@ -222,6 +222,7 @@ TEST(FrmTabela, CalculatesTheActiveFunctionAndCopiesTheText) {
   EXPECT_EQ(w.MS1()->rowCount(), 2);
   w.RefreshButtons();
   EXPECT_FALSE(w.Button("Copy")->isEnabled()) << "an empty table";
+  EXPECT_FALSE(w.Button("HTML")->isEnabled()) << "an empty table cannot be published";
   w.Button("Calculate")->trigger();
   EXPECT_EQ(w.MS1()->rowCount(), 12);
   EXPECT_EQ(w.MS1()->item(1, 1)->text(), "24");
