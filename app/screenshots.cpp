@@ -77,6 +77,7 @@ int AnalysisShots(FrmMain& frame, const QDir& dir) {
     auto* t = static_cast<tools_qt::FrmTabela*>(w);
     t->Combo1()->setEditText(QStringLiteral("0.5"));
     t->CalculateTable();
+    t->RefreshButtons();  // as when the mouse comes over the toolbar
   });
   shoot(ToolWindow::Zeros, "zeros.png", [](QWidget* w) {
     auto* z = static_cast<tools_qt::FrmNjutn*>(w);
