@@ -10,13 +10,14 @@
 #include <QLineEdit>
 #include <QMenu>
 #include <QRadioButton>
-#include <QTableWidget>
+#include <QTableView>
 #include <QToolBar>
 #include <QToolButton>
 #include <QVBoxLayout>
 
 #include "platform/mathpadtarget.h"
 #include "platform/qt/qtstring.h"
+#include "tools/qt/valuetablemodel.h"
 
 namespace velmora::tools_qt {
 
@@ -65,7 +66,8 @@ FrmTabela::FrmTabela(QWidget* owner, ToolServices services)
   copyMenu
       ->addAction(QStringLiteral("C&opy Cell"), this,
                   [this] {
-                    if (grid_->currentItem() != nullptr) PutText(grid_->currentItem()->text());
+                    const QModelIndex at = grid_->currentIndex();
+                    if (at.isValid()) PutText(Cell(at.row(), at.column()));
                   })
       ->setObjectName("copy2");
   copy->setMenu(copyMenu);
@@ -102,7 +104,9 @@ FrmTabela::FrmTabela(QWidget* owner, ToolServices services)
   txtDec_->setEditable(true);
   for (int i = 1; i <= 14; ++i) txtDec_->addItem(QString::number(i));
   txtDec_->setEditText(QStringLiteral("3"));
-  grid_ = new QTableWidget(this);
+  grid_ = new QTableView(this);
+  model_ = new ValueTableModel(tool_->Table(), grid_);
+  grid_->setModel(model_);
   grid_->setFont(QFont(QStringLiteral("Tahoma"), 9));
   grid_->horizontalHeader()->hide();
   grid_->verticalHeader()->hide();
@@ -140,8 +144,8 @@ FrmTabela::FrmTabela(QWidget* owner, ToolServices services)
   });
   connect(txtY_, &QComboBox::activated, this, &FrmTabela::ChooseFromList);
   OnEnter(combo1_, this, [this] { CalculateTable(); });
-  connect(grid_, &QTableWidget::customContextMenuRequested, this, [this, copyMenu](const QPoint& at) {
-    if (grid_->rowCount() > 2) copyMenu->exec(grid_->viewport()->mapToGlobal(at));
+  connect(grid_, &QTableView::customContextMenuRequested, this, [this, copyMenu](const QPoint& at) {
+    if (GridRows() > 2) copyMenu->exec(grid_->viewport()->mapToGlobal(at));
   });
 
   // The active graph window's function, type and lists.
@@ -233,26 +237,16 @@ void FrmTabela::CalculateTable() {
 
 void FrmTabela::ShowTable() {
   const graph::ValueTable& table = tool_->Table();
-  grid_->setUpdatesEnabled(false);
-  grid_->clearContents();
-  grid_->setColumnCount(table.Cols());
-  grid_->setRowCount(table.Rows());
-  for (int r = 0; r < table.Rows(); ++r) {
-    for (int c = 0; c < table.Cols(); ++c) {
-      auto* item = new QTableWidgetItem(ToQString(table.TextMatrix(r, c)));
-      if (r == 0) {
-        item->setBackground(QColor(0xD6, 0xD6, 0xD6));
-        item->setTextAlignment(Qt::AlignCenter);
-      }
-      grid_->setItem(r, c, item);
-    }
-  }
+  model_->Refresh();
   const double share = table.Cols() == 4 ? 4.3 : 3.2;
   for (int c = 0; c < table.Cols(); ++c) {
     grid_->setColumnWidth(c, static_cast<int>(grid_->viewport()->width() / share));
   }
-  grid_->setUpdatesEnabled(true);
 }
+
+int FrmTabela::GridRows() const { return model_->rowCount(); }
+
+QString FrmTabela::Cell(int row, int col) const { return model_->index(row, col).data().toString(); }
 
 tools::TableHead FrmTabela::Head() const {
   return tools::TableHead{tool_->Type() == 3,
@@ -285,7 +279,7 @@ void FrmTabela::PublishTable() {
 }
 
 void FrmTabela::RefreshButtons() {
-  const bool rows = grid_->rowCount() != 2;
+  const bool rows = GridRows() != 2;
   Button("Copy")->setEnabled(rows);
   Button("HTML")->setEnabled(rows && publisher_ != nullptr);
   Button("Save")->setEnabled(rows && services_.Has(platform::ToolWindow::MathPad));

@@ -14,10 +14,12 @@ class QComboBox;
 class QLabel;
 class QLineEdit;
 class QRadioButton;
-class QTableWidget;
+class QTableView;
 class QToolBar;
 
 namespace velmora::tools_qt {
+
+class ValueTableModel;
 
 // The Value Tables window (`frmTabela`, "Value Tables") over
 // tools::ValueTableTool: the function boxes, the three types, range, step
@@ -39,7 +41,10 @@ class FrmTabela final : public QWidget {
   QLineEdit* TxtGore() const { return txtgore_; }
   QComboBox* Combo1() const { return combo1_; }
   QComboBox* TxtDec() const { return txtDec_; }
-  QTableWidget* MS1() const { return grid_; }
+  QTableView* MS1() const { return grid_; }
+  // The grid's rows and one cell's text as shown.
+  int GridRows() const;
+  QString Cell(int row, int col) const;
   QLabel* LabY() const { return labY_; }
   QAction* Button(const char* key) const;
 
@@ -74,7 +79,8 @@ class FrmTabela final : public QWidget {
   QLineEdit* txtgore_ = nullptr;
   QComboBox* combo1_ = nullptr;
   QComboBox* txtDec_ = nullptr;
-  QTableWidget* grid_ = nullptr;
+  QTableView* grid_ = nullptr;
+  ValueTableModel* model_ = nullptr;
   bool filling_ = false;
 };
 

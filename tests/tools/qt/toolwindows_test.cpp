@@ -17,7 +17,7 @@
 #include <QProgressBar>
 #include <QPushButton>
 #include <QRadioButton>
-#include <QTableWidget>
+#include <QTableView>
 #include <QTest>
 #include <QTextEdit>
 #include <QTimer>
@@ -219,13 +219,13 @@ TEST(FrmTabela, CalculatesTheActiveFunctionAndCopiesTheText) {
   EXPECT_EQ(w.windowTitle(), "Value Tables");
   EXPECT_EQ(w.TxtY()->currentText(), "x^2-1");
   EXPECT_TRUE(w.OptFunkcije(1)->isChecked());
-  EXPECT_EQ(w.MS1()->rowCount(), 2);
+  EXPECT_EQ(w.GridRows(), 2);
   w.RefreshButtons();
   EXPECT_FALSE(w.Button("Copy")->isEnabled()) << "an empty table";
   EXPECT_FALSE(w.Button("HTML")->isEnabled()) << "an empty table cannot be published";
   w.Button("Calculate")->trigger();
-  EXPECT_EQ(w.MS1()->rowCount(), 12);
-  EXPECT_EQ(w.MS1()->item(1, 1)->text(), "24");
+  EXPECT_EQ(w.GridRows(), 12);
+  EXPECT_EQ(w.Cell(1, 1), "24");
   EXPECT_FALSE(w.Button("Copy")->isEnabled()) << "re-evaluated on the toolbar's mouse event only";
   w.RefreshButtons();
   EXPECT_TRUE(w.Button("Copy")->isEnabled());
@@ -233,6 +233,22 @@ TEST(FrmTabela, CalculatesTheActiveFunctionAndCopiesTheText) {
   w.Button("Copy")->trigger();
   EXPECT_TRUE(QGuiApplication::clipboard()->text().startsWith(
       "Function: Y = x^2-1\r\nRange:    Xmin = -5  Xmax = 5\r\n"));
+}
+
+TEST(FrmTabela, ThirtyThousandRowsAndOneCellCopied) {
+  Fixture f;
+  FrmTabela w(nullptr, f.Services());
+  w.TxtY()->setEditText("x");
+  w.TxtDole()->setText("1");
+  w.TxtGore()->setText("30000");
+  w.CalculateTable();
+  ASSERT_EQ(w.GridRows(), 30001);
+  EXPECT_EQ(w.Cell(30000, 0), "30000");
+  w.MS1()->setCurrentIndex(w.MS1()->model()->index(2, 1));
+  QAction* copyCell = w.findChild<QAction*>("copy2");
+  ASSERT_NE(copyCell, nullptr);
+  copyCell->trigger();
+  EXPECT_EQ(QGuiApplication::clipboard()->text(), "2");
 }
 
 TEST(FrmTabela, TheTableGoesToMathPadInCourierNew) {
@@ -256,7 +272,7 @@ TEST(FrmTabela, AnEditEmptiesTheTableAndTheOptionsSwitchTheBoxes) {
   FrmTabela w(nullptr, f.Services());
   w.CalculateTable();
   w.TxtY()->setEditText("x^3");
-  EXPECT_EQ(w.MS1()->rowCount(), 2);
+  EXPECT_EQ(w.GridRows(), 2);
   w.OptFunkcije(3)->click();
   EXPECT_EQ(w.LabY()->text(), "R (K) =");
   EXPECT_FALSE(w.TxtDole()->isEnabled());
@@ -273,7 +289,7 @@ TEST(FrmTabela, ChoosingAParametricEntryFromTheList) {
   emit w.TxtY()->activated(1);  // "sin(k)", drawn as parametric
   EXPECT_TRUE(w.OptFunkcije(2)->isChecked());
   EXPECT_EQ(w.TxtX()->currentText(), "cos(k)");
-  EXPECT_EQ(w.MS1()->rowCount(), 20) << "-9 to 9 by the stored step";
+  EXPECT_EQ(w.GridRows(), 20) << "-9 to 9 by the stored step";
 }
 
 TEST(FrmNjutn, ZerosFromAGuessAndOverTheGraphsRange) {
