@@ -105,16 +105,16 @@ constexpr std::array kGraph{
 };
 
 constexpr std::array kTools{
-    MenuItem{"mnuTools", 0, "&Evaluator...", "", C::ToolEvaluator, E::NotBuilt},
-    MenuItem{"mnuTools", 1, "&Point Evaluate...", "", C::ToolPointEvaluate, E::NotBuilt},
+    MenuItem{"mnuTools", 0, "&Evaluator...", "", C::ToolEvaluator, E::Always},
+    MenuItem{"mnuTools", 1, "&Point Evaluate...", "", C::ToolPointEvaluate, E::Always},
     Sep("mnuTools", 2),
-    MenuItem{"mnuTools", 3, "&Integrate...", "", C::ToolIntegrate, E::NotBuilt},
-    MenuItem{"mnuTools", 4, "Find Critic&al Points...", "", C::ToolCriticalPoints, E::NotBuilt},
-    MenuItem{"mnuTools", 5, "Find &Zeros...", "", C::ToolZeros, E::NotBuilt},
-    MenuItem{"mnuTools", 6, "Find I&ntersection...", "", C::ToolIntersection, E::NotBuilt},
+    MenuItem{"mnuTools", 3, "&Integrate...", "", C::ToolIntegrate, E::Always},
+    MenuItem{"mnuTools", 4, "Find Critic&al Points...", "", C::ToolCriticalPoints, E::NeedsWindow},
+    MenuItem{"mnuTools", 5, "Find &Zeros...", "", C::ToolZeros, E::Always},
+    MenuItem{"mnuTools", 6, "Find I&ntersection...", "", C::ToolIntersection, E::Always},
     Sep("mnuTools", 7),
     MenuItem{"mnuTools", 8, "Insert &Label...", "", C::ToolLabel, E::NeedsWindow},
-    MenuItem{"mnuTools", 9, "&Value Tables...", "", C::ToolValueTables, E::NotBuilt},
+    MenuItem{"mnuTools", 9, "&Value Tables...", "", C::ToolValueTables, E::Always},
     Sep("mnuTools", 10),
     // The scientific calculator's entry has no action in this version.
     MenuItem{"mnuTools", 11, "&Scientific Calculator...", "", C::ToolScientific, E::NotBuilt},

@@ -5,6 +5,7 @@
 #include <QAction>
 #include <QApplication>
 #include <QCheckBox>
+#include <QComboBox>
 #include <QDir>
 #include <QFile>
 #include <QLineEdit>
@@ -28,6 +29,11 @@
 #include "graph/qt/qimagesurface.h"
 #include "mathpad/qt/frmansi.h"
 #include "mathpad/qt/frmmapuskice.h"
+#include "tools/qt/frmanalizanew.h"
+#include "tools/qt/frmintav.h"
+#include "tools/qt/frmnjutn.h"
+#include "tools/qt/frmtabela.h"
+#include "tools/qt/frmtast.h"
 
 namespace velmora::app {
 namespace {
@@ -174,6 +180,79 @@ int GraphToolShots(FrmMain& frame, const QDir& dir) {
   return failures;
 }
 
+// The analysis tools after a calculation on the active window's function.
+int AnalysisShots(FrmMain& frame, const QDir& dir) {
+  using platform::ToolWindow;
+  graph_qt::FrmFunc* active = frame.ActiveGraphWindow();
+  if (active == nullptr) return 7;
+  active->Logic().DrawFunction(1, "x^3-3*x", "K");
+  active->SyncFromLogic();
+  Settle();
+  ToolWindowHost& tools = frame.Tools();
+  int failures = 0;
+  const auto shoot = [&](ToolWindow kind, const char* file, auto&& fill) {
+    tools.Show(kind);
+    QWidget* window = tools.Window(kind);
+    if (window == nullptr) {
+      ++failures;
+      return;
+    }
+    Settle();
+    fill(window);
+    Settle();
+    if (!Save(*window, dir, QString::fromLatin1(file))) ++failures;
+    window->close();
+    Settle();
+  };
+  shoot(ToolWindow::Evaluator, "evaluator.png", [](QWidget* w) {
+    auto* e = static_cast<tools_qt::FrmTast*>(w);
+    for (const char* text : {"2*pi*3", "sqr(2)", "exp(1)"}) {
+      e->WriteText(text);
+      e->Evaluate();
+    }
+  });
+  shoot(ToolWindow::ValueTables, "valuetables.png", [](QWidget* w) {
+    auto* t = static_cast<tools_qt::FrmTabela*>(w);
+    t->Combo1()->setEditText(QStringLiteral("0.5"));
+    t->CalculateTable();
+    t->RefreshButtons();  // as when the mouse comes over the toolbar
+  });
+  shoot(ToolWindow::Zeros, "zeros.png", [](QWidget* w) {
+    auto* z = static_cast<tools_qt::FrmNjutn*>(w);
+    z->Option1(1)->click();
+    z->Calculate();
+  });
+  shoot(ToolWindow::Intersection, "intersection.png", [](QWidget* w) {
+    auto* z = static_cast<tools_qt::FrmNjutn*>(w);
+    z->Text7()->setEditText(QStringLiteral("x"));
+    z->Option1(1)->click();
+    z->Calculate();
+  });
+  shoot(ToolWindow::PointEvaluate, "pointevaluate.png", [](QWidget* w) {
+    auto* z = static_cast<tools_qt::FrmNjutn*>(w);
+    z->Text2()->setText(QStringLiteral("1.5"));
+    z->Calculate();
+    z->Option1(1)->click();
+    z->Text4()->setText(QStringLiteral("1"));
+    z->Calculate();
+  });
+  shoot(ToolWindow::Integrate, "integral.png", [](QWidget* w) {
+    auto* i = static_cast<tools_qt::FrmIntAv*>(w);
+    i->TxtMin()->setText(QStringLiteral("0"));
+    i->TxtMax()->setText(QStringLiteral("2"));
+    i->Integral();
+    i->Text8()->setText(QStringLiteral("1"));
+    i->Derivative();
+  });
+  shoot(ToolWindow::CriticalPoints, "criticalpoints.png", [](QWidget* w) {
+    auto* c = static_cast<tools_qt::FrmAnalizaNew*>(w);
+    c->TxtMin()->setText(QStringLiteral("-3"));
+    c->TxtMax()->setText(QStringLiteral("3"));
+    c->Calculate();
+  });
+  return failures;
+}
+
 }  // namespace
 
 int TakeScreenshots(FrmMain& frame, const QString& folder) {
@@ -212,7 +291,9 @@ int TakeScreenshots(FrmMain& frame, const QString& folder) {
   options->close();
   Settle();
   failures += GraphToolShots(frame, dir);
-  return failures + MathPadScreenshots(frame, dir);
+  failures += MathPadScreenshots(frame, dir);
+  failures += AnalysisShots(frame, dir);
+  return failures;
 }
 
 }  // namespace velmora::app

@@ -42,13 +42,13 @@ constexpr std::array kSaveMenu{
 };
 
 constexpr std::array kNewtonMenu{
-    ToolMenuItem{"newt1", "Find Zeros...", C::ToolZeros, E::NotBuilt},
-    ToolMenuItem{"newt2", "Find Intersection...", C::ToolIntersection, E::NotBuilt},
+    ToolMenuItem{"newt1", "Find Zeros...", C::ToolZeros, E::Always},
+    ToolMenuItem{"newt2", "Find Intersection...", C::ToolIntersection, E::Always},
 };
 
 constexpr std::array kEvaluatorMenu{
-    ToolMenuItem{"ev1", "Evaluator...", C::ToolEvaluator, E::NotBuilt},
-    ToolMenuItem{"ev2", "Point Evaluate...", C::ToolPointEvaluate, E::NotBuilt},
+    ToolMenuItem{"ev1", "Evaluator...", C::ToolEvaluator, E::Always},
+    ToolMenuItem{"ev2", "Point Evaluate...", C::ToolPointEvaluate, E::Always},
 };
 
 constexpr std::array kCalcMenu{
@@ -89,14 +89,14 @@ constexpr std::array kToolbar3{
 };
 
 constexpr std::array kToolbar4{
-    ToolButton{"Newton", "Zeros", "Find zeros", C::ToolZeros, E::NotBuilt, kNewtonMenu},
-    ToolButton{"Analiza", "Critical", "Find critical points", C::ToolCriticalPoints, E::NotBuilt},
-    ToolButton{"Integral", "Integrate", "Integrate", C::ToolIntegrate, E::NotBuilt},
-    ToolButton{"Tabela", "Tables", "Value tables", C::ToolValueTables, E::NotBuilt},
+    ToolButton{"Newton", "Zeros", "Find zeros", C::ToolZeros, E::Always, kNewtonMenu},
+    ToolButton{"Analiza", "Critical", "Find critical points", C::ToolCriticalPoints, E::NeedsWindow},
+    ToolButton{"Integral", "Integrate", "Integrate", C::ToolIntegrate, E::Always},
+    ToolButton{"Tabela", "Tables", "Value tables", C::ToolValueTables, E::Always},
     ToolButton{"Label", "Label", "Insert label", C::ToolLabel},
     ToolButton{"MathPad", "MathPad", "MathPad", C::ToolMathPad},
     ToolButton{"Options", "Options", "Plotting options", C::Options},
-    ToolButton{"Evaluator", "Evaluator", "Evaluator", C::ToolEvaluator, E::NotBuilt, kEvaluatorMenu},
+    ToolButton{"Evaluator", "Evaluator", "Evaluator", C::ToolEvaluator, E::Always, kEvaluatorMenu},
     ToolButton{"Calc", "Calculators", "Calculators", C::None, E::NotBuilt, kCalcMenu},
 };
 

@@ -1,5 +1,6 @@
 #include <istream>
 
+#include "cli/analysiscommand.h"
 #include "cli/cnumbercommand.h"
 #include "cli/command.h"
 #include "cli/complexcommand.h"
@@ -49,6 +50,23 @@ const std::vector<Command>& Commands() {
        "[--status]: "
        "a headless graph window",
        RunPlot},
+      {"table",
+       "table [--type T] --y TEXT [--x TEXT] [--xmin T] [--xmax T] [--step T] [--accuracy N] [--text] "
+       "[--html F]: a value table",
+       RunTable},
+      {"zeros", "zeros FUNCTION (--guess G | --range XMIN XMAX) [--accurate]: zeros by the Newton search",
+       RunZeros},
+      {"intersect", "intersect F1 F2 (--guess G | --range XMIN XMAX) [--accurate]: where two functions meet",
+       RunIntersect},
+      {"point", "point FUNCTION (--x X | --y Y --range XMIN XMAX) [--accurate]: Y at X, or the X of a Y",
+       RunPoint},
+      {"integral",
+       "integral FUNCTION MIN MAX [--segments N] [--trapezoid] [--average] [--accuracy N], or integral "
+       "--derivative FUNCTION POINT: integral, average, derivative",
+       RunIntegral},
+      {"critical", "critical FUNCTION [XMIN XMAX] [--accurate]: minima and maxima in a range", RunCritical},
+      {"evaluate", "evaluate: the Evaluator window, one expression a line (a tab and a value for X optional)",
+       RunEvaluate},
   };
   return table;
 }

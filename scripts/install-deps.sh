@@ -15,6 +15,7 @@ packages=(
   fonts-liberation fonts-dejavu-core
   python3-numpy
   libreoffice-writer-nogui xdg-utils
+  tidy
 )
 
 missing=()
