@@ -7,6 +7,7 @@
 
 #include <string>
 
+#include <QAbstractButton>
 #include <QApplication>
 #include <QKeyEvent>
 #include <QLabel>
