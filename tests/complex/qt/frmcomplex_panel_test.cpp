@@ -2,6 +2,8 @@
 // the "Complex" popup with the entries of tools this version may lack, and
 // OFF.
 #include <QClipboard>
+#include <QFile>
+#include <QTemporaryDir>
 #include <QTextCursor>
 #include <QTextEdit>
 
@@ -161,6 +163,44 @@ TEST_F(PanelTest, TheComplexPopupDisablesTheToolsThisVersionLacks) {
   W().ShowComplexMenu(QPoint(10, 10));
   EXPECT_TRUE(Action("mnugeometry")->isEnabled());
   menu->hide();
+}
+
+// A desktop that records what it is asked to open.
+struct RecordingShell final : platform::ShellLauncher {
+  int Execute(const std::string& file, const std::string&, const std::string&, const std::string&,
+              bool) override {
+    opened.push_back(file);
+    return result;
+  }
+  int result = 42;
+  std::vector<std::string> opened;
+};
+
+TEST_F(PanelTest, TheHelpEntryOpensTheHelpFileWhenItIsThere) {
+  QTemporaryDir folder;
+  const QString help = folder.filePath(QStringLiteral("Qelcalc.chm"));
+  RecordingShell shell;
+  delete guard.data();
+  window = new FrmComplex(nullptr, ComplexServices{&box, &tools, &shell, help});
+  guard = window;
+  W().ShowComplexMenu(QPoint(5, 5));
+  EXPECT_FALSE(Action("mnuhelp")->isEnabled());  // not there yet
+  W().ComplexMenu()->hide();
+  QFile file(help);
+  ASSERT_TRUE(file.open(QIODevice::WriteOnly));
+  file.close();
+  W().ShowComplexMenu(QPoint(5, 5));
+  ASSERT_TRUE(Action("mnuhelp")->isEnabled());
+  Action("mnuhelp")->trigger();
+  W().ComplexMenu()->hide();
+  ASSERT_EQ(shell.opened.size(), 1u);
+  EXPECT_EQ(shell.opened[0], help.toStdString());
+  EXPECT_TRUE(box.Boxes().empty());
+  // A desktop that cannot open it: the message names the file.
+  shell.result = 31;
+  Action("mnuhelp")->trigger();
+  ASSERT_EQ(box.Boxes().size(), 1u);
+  EXPECT_NE(box.Boxes()[0].text.find("Qelcalc.chm"), std::string::npos);
 }
 
 TEST_F(PanelTest, OffHidesThePanelAndClosesTheCalculator) {
