@@ -2,6 +2,7 @@
 // the "Complex" popup with the entries of tools this version may lack, and
 // OFF.
 #include <QClipboard>
+#include <QContextMenuEvent>
 #include <QFile>
 #include <QTemporaryDir>
 #include <QTextCursor>
@@ -201,6 +202,27 @@ TEST_F(PanelTest, TheHelpEntryOpensTheHelpFileWhenItIsThere) {
   Action("mnuhelp")->trigger();
   ASSERT_EQ(box.Boxes().size(), 1u);
   EXPECT_NE(box.Boxes()[0].text.find("Qelcalc.chm"), std::string::npos);
+}
+
+TEST_F(PanelTest, TypingInThePanelTypesText) {
+  // The panel is a window of its own: its keys never reach the calculator.
+  Click("cmdPan");
+  QTest::keyClicks(Panel().rt1(), QStringLiteral("ab"));
+  QTest::keyClick(Panel().rt1(), Qt::Key_5, Qt::KeypadModifier);
+  EXPECT_EQ(Panel().Text(), QStringLiteral("ab5"));
+  EXPECT_TRUE(Key("cmdBroj", 1)->isChecked());
+  EXPECT_EQ(Text("lblZ1"), "0+i0");
+}
+
+TEST_F(PanelTest, ARightClickOnTheCaseOpensTheComplexPopup) {
+  QContextMenuEvent event(QContextMenuEvent::Mouse, QPoint(5, 5), W().mapToGlobal(QPoint(5, 5)));
+  QApplication::sendEvent(window, &event);
+  EXPECT_TRUE(W().ComplexMenu()->isVisible());
+  W().ComplexMenu()->hide();
+  // The Complex key opens it too.
+  Click("cmdMenu");
+  EXPECT_TRUE(W().ComplexMenu()->isVisible());
+  W().ComplexMenu()->hide();
 }
 
 TEST_F(PanelTest, OffHidesThePanelAndClosesTheCalculator) {
