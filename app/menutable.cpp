@@ -118,7 +118,7 @@ constexpr std::array kTools{
     Sep("mnuTools", 10),
     // The scientific calculator's entry has no action in this version.
     MenuItem{"mnuTools", 11, "&Scientific Calculator...", "", C::ToolScientific, E::NotBuilt},
-    MenuItem{"mnuTools", 12, "&Complex Calculator...", "", C::ToolComplex, E::NotBuilt},
+    MenuItem{"mnuTools", 12, "&Complex Calculator...", "", C::ToolComplex, E::Always},
     MenuItem{"mnuTools", 13, "&Geometry Calculator...", "", C::ToolGeometry, E::NotBuilt},
     MenuItem{"mnuTools", 14, "&Matrix Calculator...", "", C::ToolMatrix, E::NotBuilt},
     MenuItem{"mnuTools", 15, "&Units Converter...", "", C::ToolConverter, E::NotBuilt},

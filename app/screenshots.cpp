@@ -1,7 +1,10 @@
 #include "app/screenshots.h"
 
 #include <cstdio>
+#include <initializer_list>
+#include <utility>
 
+#include <QAbstractButton>
 #include <QAction>
 #include <QApplication>
 #include <QCheckBox>
@@ -19,6 +22,7 @@
 #include "app/framemenus.h"
 #include "app/frmmain.h"
 #include "app/toolwindowhost.h"
+#include "complex/qt/frmcomplex.h"
 #include "graph/graphwindow.h"
 #include "graph/qt/frmfunc.h"
 #include "graph/qt/frmgridopt.h"
@@ -253,6 +257,45 @@ int AnalysisShots(FrmMain& frame, const QDir& dir) {
   return failures;
 }
 
+// Clicks the calculator's keys named in order ("cmdBroj(1)", "Number(3)").
+void Press(complex_qt::FrmComplex& calculator, std::initializer_list<std::pair<const char*, int>> keys) {
+  for (const auto& [name, index] : keys) {
+    if (QAbstractButton* key = calculator.Button(name, index)) key->click();
+  }
+  Settle();
+}
+
+// The Complex Calculator after (3 + j4) * (1 - j2) typed on its keypad, with
+// the panel beside it; then in simple mode with sin 30 deg on its readout.
+int ComplexScreenshots(FrmMain& frame, const QDir& dir) {
+  frame.Tools().Show(platform::ToolWindow::Complex);
+  auto* calculator =
+      qobject_cast<complex_qt::FrmComplex*>(frame.Tools().Window(platform::ToolWindow::Complex));
+  if (calculator == nullptr) return 2;
+  Settle();
+  Press(*calculator, {{"cmdBroj", 1},
+                      {"Number", 3},
+                      {"cmdBroj", 2},
+                      {"Number", 4},
+                      {"cmdBroj", 3},
+                      {"Number", 1},
+                      {"cmdBroj", 4},
+                      {"Number", 2},
+                      {"cmdPlusMinus", -1},
+                      {"cmdPan", -1},
+                      {"cmdmnozenje", -1},
+                      {"cmdMemory1", -1}});
+  int failures = Save(*calculator, dir, QStringLiteral("complex.png")) ? 0 : 1;
+  calculator->SetSimpleMode(true);
+  Press(*calculator, {{"Number", 3}, {"Number", 0}});
+  if (auto* deg = calculator->findChild<QAbstractButton*>(QStringLiteral("Check2"))) deg->click();
+  Press(*calculator, {{"cmdsing", -1}});
+  if (!Save(*calculator, dir, QStringLiteral("complex_simple.png"))) ++failures;
+  calculator->close();
+  Settle();
+  return failures;
+}
+
 }  // namespace
 
 int TakeScreenshots(FrmMain& frame, const QString& folder) {
@@ -293,6 +336,8 @@ int TakeScreenshots(FrmMain& frame, const QString& folder) {
   failures += GraphToolShots(frame, dir);
   failures += MathPadScreenshots(frame, dir);
   failures += AnalysisShots(frame, dir);
+  failures += ComplexScreenshots(frame, dir);
+  return failures;
   return failures;
 }
 

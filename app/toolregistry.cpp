@@ -1,6 +1,9 @@
 #include "app/toolregistry.h"
 
+#include <QDir>
+
 #include "app/frmmain.h"
+#include "app/menutable.h"
 #include "app/toolwindowhost.h"
 #include "mathpad/qt/frmmapuskice.h"
 #include "graph/qt/frmfunc.h"
@@ -9,6 +12,7 @@
 #include "tools/qt/frmnjutn.h"
 #include "tools/qt/frmtabela.h"
 #include "tools/qt/frmtast.h"
+#include "complex/qt/frmcomplex.h"
 
 namespace velmora::app {
 namespace {
@@ -56,6 +60,11 @@ void RegisterToolWindows(ToolWindowHost& host, const FrameServices& services) {
   host.Register(ToolWindow::Integrate, tool([](QWidget* o, auto s) { return new tools_qt::FrmIntAv(o, s); }));
   host.Register(ToolWindow::CriticalPoints,
                 tool([](QWidget* o, auto s) { return tools_qt::FrmAnalizaNew::Open(o, s); }));
+  host.Register(platform::ToolWindow::Complex, [&services, &host](QWidget* owner) {
+    return new complex_qt::FrmComplex(
+        owner, {services.messages, &host, services.shell,
+                QDir(services.programFolder).filePath(QString::fromUtf8(kHelpFile.data()))});
+  });
 }
 
 }  // namespace velmora::app

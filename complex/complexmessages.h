@@ -61,6 +61,11 @@ inline constexpr Message kNullResult{"Can't add null result.", kDefaultTitle, Ms
 inline constexpr Message kNoCalculations{"Perform some calculations first.", kDefaultTitle, MsgIcon::None};
 inline constexpr Message kMemoryEmpty{"Memory is empty.", kDefaultTitle, MsgIcon::Information};
 
+// The keypad's Clear All asks first (OK and Cancel).
+inline constexpr Message kClearAllQuestion{"Clear All?", kDefaultTitle, MsgIcon::Critical};
+// A real function of the simple readout outside its domain.
+inline constexpr Message kReadoutInvalidInput{"Invalid input.", kDefaultTitle, MsgIcon::Information};
+
 // Shows a fixed message with an OK button.
 void Show(platform::MessageBox& box, const Message& message);
 

@@ -175,6 +175,7 @@ TEST(MenuTable, ToolsOfLaterVersionsAreDisabledAndTheGraphCommandsNeedAWindow) {
       {"mnued2", -1, EnableRule::NeedsWindow, Command::ClearAll},
       {"mnuclearall", -1, EnableRule::NeedsWindow, Command::ClearGrid},
       {"mnuTools", 11, EnableRule::NotBuilt, Command::ToolScientific},
+      {"mnuTools", 12, EnableRule::Always, Command::ToolComplex},
       {"mnuTools", 14, EnableRule::NotBuilt, Command::ToolMatrix},
       {"mnuTools", 17, EnableRule::Always, Command::ToolMathPad},
       {"mnuOptions", -1, EnableRule::NeedsWindow, Command::Options},
@@ -243,6 +244,9 @@ TEST(ToolbarTable, DropDownKeysAndCommands) {
   EXPECT_EQ(FindToolButton("Options")->command, Command::Options);
   EXPECT_EQ(FindToolButton("Options")->enable, EnableRule::NeedsWindow);
   EXPECT_EQ(FindToolButton("Scientific")->enable, EnableRule::NotBuilt);
+  // The Complex Calculator is built: its key and the calculators' drop-down are live.
+  EXPECT_EQ(FindToolButton("Complex")->enable, EnableRule::Always);
+  EXPECT_EQ(FindToolButton("Calc")->enable, EnableRule::Always);
 }
 
 }  // namespace
