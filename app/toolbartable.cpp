@@ -55,7 +55,7 @@ constexpr std::array kCalcMenu{
     ToolMenuItem{"c1", "Scientific Calculator...", C::ToolScientific, E::NotBuilt},
     ToolMenuItem{"c2", "Complex Calculator...", C::ToolComplex, E::NotBuilt},
     ToolMenuItem{"c3", "Geometry Calculator...", C::ToolGeometry, E::NotBuilt},
-    ToolMenuItem{"c4", "Matrix Calculator...", C::ToolMatrix, E::NotBuilt},
+    ToolMenuItem{"c4", "Matrix Calculator...", C::ToolMatrix, E::Always},
     ToolMenuItem{"c6", "Units Converter...", C::ToolConverter, E::NotBuilt},
 };
 
@@ -85,7 +85,7 @@ constexpr std::array kToolbar3{
     ToolButton{"Scientific", "Scientific", "Scientific calculator", C::ToolScientific, E::NotBuilt},
     ToolButton{"Complex", "Complex", "Complex calculator", C::ToolComplex, E::NotBuilt},
     ToolButton{"Geometry", "Geometry", "Geometry calculator", C::ToolGeometry, E::NotBuilt},
-    ToolButton{"Matrix", "Matrix", "Matrix calculator", C::ToolMatrix, E::NotBuilt},
+    ToolButton{"Matrix", "Matrix", "Matrix calculator", C::ToolMatrix, E::Always},
 };
 
 constexpr std::array kToolbar4{
@@ -97,7 +97,7 @@ constexpr std::array kToolbar4{
     ToolButton{"MathPad", "MathPad", "MathPad", C::ToolMathPad, E::NotBuilt},
     ToolButton{"Options", "Options", "Plotting options", C::Options},
     ToolButton{"Evaluator", "Evaluator", "Evaluator", C::ToolEvaluator, E::NotBuilt, kEvaluatorMenu},
-    ToolButton{"Calc", "Calculators", "Calculators", C::None, E::NotBuilt, kCalcMenu},
+    ToolButton{"Calc", "Calculators", "Calculators", C::None, E::Always, kCalcMenu},
 };
 
 constexpr std::array kToolbars{

@@ -175,7 +175,7 @@ TEST(MenuTable, ToolsOfLaterVersionsAreDisabledAndTheGraphCommandsNeedAWindow) {
       {"mnued2", -1, EnableRule::NeedsWindow, Command::ClearAll},
       {"mnuclearall", -1, EnableRule::NeedsWindow, Command::ClearGrid},
       {"mnuTools", 11, EnableRule::NotBuilt, Command::ToolScientific},
-      {"mnuTools", 14, EnableRule::NotBuilt, Command::ToolMatrix},
+      {"mnuTools", 14, EnableRule::Always, Command::ToolMatrix},
       {"mnuTools", 17, EnableRule::NotBuilt, Command::ToolMathPad},
       {"mnuOptions", -1, EnableRule::NeedsWindow, Command::Options},
       {"mnuHelpContents", -1, EnableRule::HelpFile, Command::HelpContents},
