@@ -3,6 +3,9 @@
 #include <cstdio>
 
 #include <QAction>
+#include <QLineEdit>
+#include <QPushButton>
+#include <QRadioButton>
 #include <QApplication>
 #include <QDir>
 #include <QMdiArea>
@@ -10,8 +13,11 @@
 
 #include "app/framemenus.h"
 #include "app/frmmain.h"
+#include "app/toolwindowhost.h"
 #include "graph/qt/frmfunc.h"
 #include "graph/qt/frmgridopt.h"
+#include "matrix/qt/frmmatrice.h"
+#include "matrix/qt/gridview.h"
 
 namespace velmora::app {
 namespace {
@@ -31,6 +37,47 @@ bool Save(QWidget& widget, const QDir& folder, const QString& name) {
 void Choose(FrmMain& frame, const char* array, int index) {
   if (QAction* action = frame.Menus().Action(QString::fromLatin1(array), index)) action->trigger();
   Settle();
+}
+
+// Types cells into a grid of the Matrix Calculator, Enter after each.
+void TypeCells(matrix_qt::GridView* grid, std::initializer_list<const char*> cells) {
+  for (const char* cell : cells) {
+    for (const char* k = cell; *k != '\0'; ++k) grid->Type(*k);
+    grid->Type('\r');
+  }
+}
+
+// One calculation of the Matrix Calculator as a user makes it: the
+// operation, the sizes, "&Continue", the cells, then the toolbar's go.
+void Calculate(matrix_qt::FrmMatrice& m, const char* option, const char* size,
+               std::initializer_list<const char*> a, std::initializer_list<const char*> b) {
+  m.NewMatrices();  // typing adds to a cell's text: start from empty grids
+  m.findChild<QRadioButton*>(QString::fromLatin1(option))->click();
+  m.findChild<QLineEdit*>(QStringLiteral("txtEntry1"))->setText(QString::fromLatin1(size));
+  m.findChild<QPushButton*>(QStringLiteral("cmdGo"))->click();
+  TypeCells(m.Grid(0), a);
+  TypeCells(m.Grid(1), b);
+  m.ToolbarButton(11)->trigger();
+  while (m.Busy()) QApplication::processEvents(QEventLoop::WaitForMoreEvents);
+  Settle();
+}
+
+// The Matrix Calculator after a 4 x 4 inverse with its determinant, and
+// after a system of three equations with its solution.
+int MatrixScreenshots(FrmMain& frame, const QDir& dir) {
+  frame.Tools().Show(platform::ToolWindow::Matrix);
+  auto* m = qobject_cast<matrix_qt::FrmMatrice*>(frame.Tools().Window(platform::ToolWindow::Matrix));
+  if (m == nullptr) return 2;
+  m->resize(1100, 560);
+  Settle();
+  Calculate(*m, "optDetInv", "4x4", {"4", "3", "2", "1", "3", "4", "3", "2", "2", "3", "4", "3", "1", "2", "3", "4"},
+            {});
+  int failures = Save(*m, dir, QStringLiteral("matrix-inverse.png")) ? 0 : 1;
+  Calculate(*m, "optSolutionSet", "3x3", {"2", "1", "-1", "-3", "-1", "2", "-2", "1", "2"}, {"8", "-11", "-3"});
+  if (!Save(*m, dir, QStringLiteral("matrix-solution.png"))) ++failures;
+  m->close();
+  Settle();
+  return failures;
 }
 
 }  // namespace
@@ -70,6 +117,7 @@ int TakeScreenshots(FrmMain& frame, const QString& folder) {
   if (!Save(*options, dir, QStringLiteral("options.png"))) ++failures;
   options->close();
   Settle();
+  failures += MatrixScreenshots(frame, dir);
   return failures;
 }
 

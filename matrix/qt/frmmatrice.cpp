@@ -474,6 +474,9 @@ void FrmMatrice::RefreshGrids() {
   txtDet_->setText(QString::fromStdString(calc_.txtDet));
   txtEq_->setText(QString::fromStdString(calc_.txtEq));
   lblEq_->setText(calc_.txtEq.empty() ? QString() : QStringLiteral("Characteristic equation:"));
+  // The equation's line stands only while there is an equation to show.
+  lblEq_->setVisible(!calc_.txtEq.empty());
+  txtEq_->setVisible(!calc_.txtEq.empty());
   tabs_->setTabText(MatrixCalculator::kTabSwap, calc_.SwapCaption.empty()
                                                     ? QString::fromUtf8(kTabCaptions[4])
                                                     : QString::fromStdString(calc_.SwapCaption));
