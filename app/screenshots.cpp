@@ -3,13 +3,13 @@
 #include <cstdio>
 
 #include <QAction>
-#include <QLineEdit>
-#include <QPushButton>
-#include <QRadioButton>
 #include <QApplication>
 #include <QDir>
+#include <QLineEdit>
 #include <QMdiArea>
 #include <QPixmap>
+#include <QPushButton>
+#include <QRadioButton>
 
 #include "app/framemenus.h"
 #include "app/frmmain.h"
@@ -70,10 +70,11 @@ int MatrixScreenshots(FrmMain& frame, const QDir& dir) {
   if (m == nullptr) return 2;
   m->resize(1100, 560);
   Settle();
-  Calculate(*m, "optDetInv", "4x4", {"4", "3", "2", "1", "3", "4", "3", "2", "2", "3", "4", "3", "1", "2", "3", "4"},
-            {});
+  Calculate(*m, "optDetInv", "4x4",
+            {"4", "3", "2", "1", "3", "4", "3", "2", "2", "3", "4", "3", "1", "2", "3", "4"}, {});
   int failures = Save(*m, dir, QStringLiteral("matrix-inverse.png")) ? 0 : 1;
-  Calculate(*m, "optSolutionSet", "3x3", {"2", "1", "-1", "-3", "-1", "2", "-2", "1", "2"}, {"8", "-11", "-3"});
+  Calculate(*m, "optSolutionSet", "3x3", {"2", "1", "-1", "-3", "-1", "2", "-2", "1", "2"},
+            {"8", "-11", "-3"});
   if (!Save(*m, dir, QStringLiteral("matrix-solution.png"))) ++failures;
   m->close();
   Settle();
