@@ -544,7 +544,12 @@ void FrmMatrice::RunInBackground(std::function<bool(MatrixCalculator&)> step,
   busy_ = true;
   panel_->setEnabled(false);
   menuBar()->setEnabled(false);
-  for (auto& [index, button] : buttons_) button->setEnabled(false);
+  // The buttons come back as they were: go stays disabled until sizes are taken.
+  auto enabled = std::make_shared<std::map<int, bool>>();
+  for (auto& [index, button] : buttons_) {
+    (*enabled)[index] = button->isEnabled();
+    button->setEnabled(false);
+  }
   for (GridView* view : views_) view->setEnabled(false);
   relay_->Hold();
   // The worker computes on a copy; the window keeps showing (and painting)
@@ -553,12 +558,12 @@ void FrmMatrice::RunInBackground(std::function<bool(MatrixCalculator&)> step,
   auto ok = std::make_shared<bool>(false);
   QThread* thread = QThread::create([work, ok, step] { *ok = step(*work); });
   thread->setParent(this);
-  connect(thread, &QThread::finished, this, [this, thread, work, ok, after] {
+  connect(thread, &QThread::finished, this, [this, thread, work, ok, after, enabled] {
     TakeResults(*work);
     busy_ = false;
     panel_->setEnabled(true);
     menuBar()->setEnabled(true);
-    for (auto& [index, button] : buttons_) button->setEnabled(true);
+    for (auto& [index, button] : buttons_) button->setEnabled((*enabled)[index]);
     for (GridView* view : views_) view->setEnabled(true);
     RefreshGrids();
     relay_->Release();
