@@ -2,12 +2,6 @@
 
 namespace velmora::matrix_qt {
 
-void GridModel::Bind(matrix::Grid& grid) {
-  beginResetModel();
-  grid_ = &grid;
-  endResetModel();
-}
-
 void GridModel::Refresh() {
   beginResetModel();
   endResetModel();

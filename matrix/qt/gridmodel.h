@@ -8,16 +8,14 @@ namespace velmora::matrix_qt {
 
 // A matrix grid of the calculator as a Qt table model: one cell a text,
 // centred, read straight from the grid it binds. The calculator changes its
-// grids itself; Refresh tells the views.
+// grids itself (a calculation's results are copied into them, so a grid's
+// address never changes); Refresh tells the views.
 class GridModel final : public QAbstractTableModel {
   Q_OBJECT
 
  public:
   GridModel(matrix::Grid& grid, QObject* parent = nullptr) : QAbstractTableModel(parent), grid_(&grid) {}
 
-  // Binds another grid (the worker's results are taken over by copy, so the
-  // address of a grid never changes; this serves tests and benchmarks).
-  void Bind(matrix::Grid& grid);
   matrix::Grid& Grid() const { return *grid_; }
   // Size and texts may have changed.
   void Refresh();
