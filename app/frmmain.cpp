@@ -109,15 +109,9 @@ void FrmMain::Load(const QStringList& arguments) {
   if (QAction* exit = menus_->Action(QString::fromUtf8(kExitName.data()), kExitIndex)) {
     exit->setText(QString::fromUtf8(kExitCaption.data(), static_cast<qsizetype>(kExitCaption.size())));
   }
-  // A command line is a matrix file for the Matrix Calculator, which this
-  // version does not have: the file is accepted and left unopened.
-  if (!arguments.isEmpty()) {
-    const QByteArray file = arguments.join(QLatin1Char(' ')).toLocal8Bit();
-    std::fprintf(stderr,
-                 "velmora: the Matrix Calculator is not part of this version; the matrix file \"%s\" "
-                 "was not opened.\n",
-                 file.constData());
-  }
+  // A command line is a matrix file, the type registered to the program: the
+  // Matrix Calculator opens on top of the frame with it.
+  if (!arguments.isEmpty()) OpenMatrixFile(*tools_, arguments.join(QLatin1Char(' ')));
   UpdateStatus();
 }
 

@@ -24,6 +24,7 @@
 #include "app/singleinstance.h"
 #include "app/stateprobe.h"
 #include "app/toolicons.h"
+#include "app/toolregistry.h"
 #include "platform/printingmessagebox.h"
 #include "platform/qt/qtcolordialog.h"
 #include "platform/qt/qtfiledialog.h"
@@ -63,9 +64,18 @@ int main(int argc, char** argv) {
     messages = std::make_unique<velmora::qtplatform::QtMessageBox>();
   }
 
-  // A second start warns and ends at once; the first goes on untouched.
+  QStringList arguments = QCoreApplication::arguments();
+  arguments.removeFirst();
+
+  // A second start with a file hands it to the first, whose Matrix
+  // Calculator opens it; a plain second start warns and ends at once. The
+  // first goes on untouched.
   velmora::app::SingleInstance instance;
   if (!instance.TryLock()) {
+    if (!arguments.isEmpty() &&
+        instance.HandOver(QFileInfo(arguments.join(QLatin1Char(' '))).absoluteFilePath())) {
+      return 0;
+    }
     messages->Show(QApplication::applicationName().toStdString() + " is already running!", "Velmora Warning",
                    velmora::platform::MsgIcon::Exclamation);
     return 0;
@@ -106,9 +116,8 @@ int main(int argc, char** argv) {
     });
   }
   frame.ShowAsLastClosed();
-  QStringList arguments = QCoreApplication::arguments();
-  arguments.removeFirst();
   frame.Load(arguments);
+  instance.Listen([&frame](const QString& file) { velmora::app::OpenMatrixFile(frame.Tools(), file); });
 
   if (!screenshots.isEmpty()) {
     QTimer::singleShot(0, &frame, [&frame, screenshots] {

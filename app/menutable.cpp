@@ -120,7 +120,7 @@ constexpr std::array kTools{
     MenuItem{"mnuTools", 11, "&Scientific Calculator...", "", C::ToolScientific, E::NotBuilt},
     MenuItem{"mnuTools", 12, "&Complex Calculator...", "", C::ToolComplex, E::Always},
     MenuItem{"mnuTools", 13, "&Geometry Calculator...", "", C::ToolGeometry, E::NotBuilt},
-    MenuItem{"mnuTools", 14, "&Matrix Calculator...", "", C::ToolMatrix, E::NotBuilt},
+    MenuItem{"mnuTools", 14, "&Matrix Calculator...", "", C::ToolMatrix, E::Always},
     MenuItem{"mnuTools", 15, "&Units Converter...", "", C::ToolConverter, E::NotBuilt},
     Sep("mnuTools", 16),
     MenuItem{"mnuTools", 17, "Mat&hPad", "", C::ToolMathPad},

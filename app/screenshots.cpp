@@ -33,6 +33,8 @@
 #include "graph/qt/qimagesurface.h"
 #include "mathpad/qt/frmansi.h"
 #include "mathpad/qt/frmmapuskice.h"
+#include "matrix/qt/frmmatrice.h"
+#include "matrix/qt/gridview.h"
 #include "tools/qt/frmanalizanew.h"
 #include "tools/qt/frmintav.h"
 #include "tools/qt/frmnjutn.h"
@@ -292,6 +294,47 @@ int ComplexScreenshots(FrmMain& frame, const QDir& dir) {
   Press(*calculator, {{"cmdsing", -1}});
   if (!Save(*calculator, dir, QStringLiteral("complex_simple.png"))) ++failures;
   calculator->close();
+  return failures;
+}
+
+// Types cells into a grid of the Matrix Calculator, Enter after each.
+void TypeCells(matrix_qt::GridView* grid, std::initializer_list<const char*> cells) {
+  for (const char* cell : cells) {
+    for (const char* k = cell; *k != '\0'; ++k) grid->Type(*k);
+    grid->Type('\r');
+  }
+}
+
+// One calculation of the Matrix Calculator as a user makes it: the
+// operation, the sizes, "&Continue", the cells, then the toolbar's go.
+void Calculate(matrix_qt::FrmMatrice& m, const char* option, const char* size,
+               std::initializer_list<const char*> a, std::initializer_list<const char*> b) {
+  m.NewMatrices();  // typing adds to a cell's text: start from empty grids
+  m.findChild<QRadioButton*>(QString::fromLatin1(option))->click();
+  m.findChild<QLineEdit*>(QStringLiteral("txtEntry1"))->setText(QString::fromLatin1(size));
+  m.findChild<QPushButton*>(QStringLiteral("cmdGo"))->click();
+  TypeCells(m.Grid(0), a);
+  TypeCells(m.Grid(1), b);
+  m.ToolbarButton(11)->trigger();
+  while (m.Busy()) QApplication::processEvents(QEventLoop::WaitForMoreEvents);
+  Settle();
+}
+
+// The Matrix Calculator after a 4 x 4 inverse with its determinant, and
+// after a system of three equations with its solution.
+int MatrixScreenshots(FrmMain& frame, const QDir& dir) {
+  frame.Tools().Show(platform::ToolWindow::Matrix);
+  auto* m = qobject_cast<matrix_qt::FrmMatrice*>(frame.Tools().Window(platform::ToolWindow::Matrix));
+  if (m == nullptr) return 2;
+  m->resize(1100, 560);
+  Settle();
+  Calculate(*m, "optDetInv", "4x4",
+            {"4", "3", "2", "1", "3", "4", "3", "2", "2", "3", "4", "3", "1", "2", "3", "4"}, {});
+  int failures = Save(*m, dir, QStringLiteral("matrix-inverse.png")) ? 0 : 1;
+  Calculate(*m, "optSolutionSet", "3x3", {"2", "1", "-1", "-3", "-1", "2", "-2", "1", "2"},
+            {"8", "-11", "-3"});
+  if (!Save(*m, dir, QStringLiteral("matrix-solution.png"))) ++failures;
+  m->close();
   Settle();
   return failures;
 }
@@ -337,6 +380,7 @@ int TakeScreenshots(FrmMain& frame, const QString& folder) {
   failures += MathPadScreenshots(frame, dir);
   failures += AnalysisShots(frame, dir);
   failures += ComplexScreenshots(frame, dir);
+  failures += MatrixScreenshots(frame, dir);
   return failures;
   return failures;
 }

@@ -1,9 +1,11 @@
 #pragma once
 
+#include <functional>
 #include <memory>
 
 #include <QString>
 
+class QLocalServer;
 class QLockFile;
 
 namespace velmora::app {
@@ -28,9 +30,20 @@ class SingleInstance {
   bool TryLock();
   QString LockPath() const { return path_; }
 
+  // The second start's hand-over: the file name goes to the first instance
+  // over the local socket "velmora.socket" beside the lock. True when the
+  // first instance took it.
+  bool HandOver(const QString& file);
+  // The first instance serves the hand-over for as long as it runs: every
+  // file a later start hands over is passed to `open`.
+  void Listen(std::function<void(const QString&)> open);
+  QString SocketPath() const;
+
  private:
   QString path_;
   std::unique_ptr<QLockFile> lock_;
+  QLocalServer* server_ = nullptr;
+  std::function<void(const QString&)> open_;
 };
 
 }  // namespace velmora::app

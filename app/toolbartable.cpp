@@ -55,7 +55,7 @@ constexpr std::array kCalcMenu{
     ToolMenuItem{"c1", "Scientific Calculator...", C::ToolScientific, E::NotBuilt},
     ToolMenuItem{"c2", "Complex Calculator...", C::ToolComplex, E::Always},
     ToolMenuItem{"c3", "Geometry Calculator...", C::ToolGeometry, E::NotBuilt},
-    ToolMenuItem{"c4", "Matrix Calculator...", C::ToolMatrix, E::NotBuilt},
+    ToolMenuItem{"c4", "Matrix Calculator...", C::ToolMatrix, E::Always},
     ToolMenuItem{"c6", "Units Converter...", C::ToolConverter, E::NotBuilt},
 };
 
@@ -85,7 +85,7 @@ constexpr std::array kToolbar3{
     ToolButton{"Scientific", "Scientific", "Scientific calculator", C::ToolScientific, E::NotBuilt},
     ToolButton{"Complex", "Complex", "Complex calculator", C::ToolComplex, E::Always},
     ToolButton{"Geometry", "Geometry", "Geometry calculator", C::ToolGeometry, E::NotBuilt},
-    ToolButton{"Matrix", "Matrix", "Matrix calculator", C::ToolMatrix, E::NotBuilt},
+    ToolButton{"Matrix", "Matrix", "Matrix calculator", C::ToolMatrix, E::Always},
 };
 
 constexpr std::array kToolbar4{

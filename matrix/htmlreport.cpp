@@ -216,7 +216,8 @@ bool WriteHtmlReport(const std::filesystem::path& path, const MatrixReport& repo
 
 void PublishHtml(const std::filesystem::path& path, const MatrixReport& report,
                  platform::MessageBox& messages,
-                 const std::function<bool(const std::filesystem::path&)>& openInBrowser) {
+                 const std::function<bool(const std::filesystem::path&)>& openInBrowser,
+                 const ReportWriter& write) {
   std::error_code ec;
   if (std::filesystem::exists(path, ec)) {
     const auto answer =
@@ -224,7 +225,14 @@ void PublishHtml(const std::filesystem::path& path, const MatrixReport& report,
                       "Save As", platform::MsgIcon::Question, platform::MsgButtons::YesNo);
     if (answer != platform::MsgResult::Yes) return;
   }
-  if (!WriteHtmlReport(path, report, messages)) return;
+  if (write) {
+    if (!write(path, HtmlReport(report))) {
+      messages.Show("Path/File access error", kCalculatorTitle, platform::MsgIcon::Critical);
+      return;
+    }
+  } else if (!WriteHtmlReport(path, report, messages)) {
+    return;
+  }
   const auto preview = messages.Show("Preview in Browser?", "Preview HTML", platform::MsgIcon::Question,
                                      platform::MsgButtons::YesNo);
   if (preview == platform::MsgResult::Yes && !openInBrowser(path)) {

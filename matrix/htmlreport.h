@@ -40,9 +40,12 @@ bool WriteHtmlReport(const std::filesystem::path& path, const MatrixReport& repo
 
 // The command after the file dialog: asks before replacing an existing file,
 // writes, and offers a preview, which `openInBrowser` performs (false when
-// the file could not be opened).
+// the file could not be opened). `write`, when given, writes the bytes
+// instead of base::WriteFileAtomically (the window writes through Qt).
+using ReportWriter = std::function<bool(const std::filesystem::path&, const std::string&)>;
 void PublishHtml(const std::filesystem::path& path, const MatrixReport& report,
                  platform::MessageBox& messages,
-                 const std::function<bool(const std::filesystem::path&)>& openInBrowser);
+                 const std::function<bool(const std::filesystem::path&)>& openInBrowser,
+                 const ReportWriter& write = {});
 
 }  // namespace velmora::matrix

@@ -35,6 +35,144 @@ bool MatrixCalculator::SizeFromGrid(ComplexMatrix& m, const std::string& name, c
   return true;
 }
 
+bool MatrixCalculator::SizeFromText(ComplexMatrix& m, const std::string& name, const std::string& text) {
+  m.Terminate();
+  m.SetName(name);
+  m.SetSizeText(text);
+  if (m.ErrNumber() != 0) {
+    // The texts of a size error begin with a blank: they follow the name.
+    Routines.ShowError(1, name, m.ErrDescription());
+    return false;
+  }
+  m.Init();
+  if (m.NumRows() < 1 || m.NumCollumns() < 1) {
+    Routines.ShowError(3, name, std::string());
+    return false;
+  }
+  return true;
+}
+
+MatrixCalculator::ContinueFocus MatrixCalculator::Continue(const std::string& entry1,
+                                                           const std::string& entry2) {
+  Context.Precision = PrecisionAtGo(txtPrecision);
+  if (!SizeFromText(MatrixA, "Matrix A", entry1)) return ContinueFocus::Entry1;
+  switch (Operation) {
+    case kAdd:
+    case kSubtract:
+    case kMultiply:
+      if (!SizeFromText(MatrixB, "Matrix B", entry2)) return ContinueFocus::Entry2;
+      break;
+    case kScalarMultiply:
+    case kScalarDivide:
+      txtEntry2 = entry2;
+      Scalar = complex::ComplexNumber();
+      Scalar.SetRectText(entry2);
+      if (Scalar.ErrNumber() != 0) {
+        Routines.ShowError(13, "Scalar Constant", Scalar.ErrDescription());
+        txtEntry2.clear();
+        return ContinueFocus::Entry2;
+      }
+      break;
+    default:
+      MatrixB.Terminate();
+      MatrixB.SetName("Matrix_F");
+      MatrixB.SetNumRows(MatrixA.NumRows());
+      MatrixB.SetNumCollumns(1);
+      MatrixB.Init();
+      break;
+  }
+  MatrixS.SetName("Matrix S");
+  MatrixS.SetIsDisplay(true);
+  MatrixI.Terminate();
+  MatrixI.SetName("Matrix I");
+  MatrixI.SetIsDisplay(false);
+  MatrixI.SetIsInverse(true);
+  MatrixI.SetNumRows(MatrixA.NumRows());
+  MatrixI.SetNumCollumns(MatrixA.NumCollumns());
+  MatrixI.Init();
+  Routines.CheckSizes(MatrixA, MatrixB, Operation);
+  if (Routines.ErrCode != 0) {
+    Routines.ShowError(Routines.ErrCode, Routines.ErrName, Routines.ErrText);
+    return ContinueFocus::Entry1;
+  }
+  SizeGrid(MatrixA, grdGrid1);
+  if (Operation == kAdd || Operation == kSubtract || Operation == kMultiply || Operation == kSolutionSet)
+    SizeGrid(MatrixB, grdGrid2);
+  return ContinueFocus::None;
+}
+
+bool MatrixCalculator::LineStep(bool column, int index, const std::function<void(std::int32_t)>& compute) {
+  Context.Precision = PrecisionAtGo(txtPrecision);
+  if (!SizeFromGrid(MatrixA, "Matrix A", grdGrid1)) return false;
+  const int count = column ? grdGrid1.Rows() : grdGrid1.Cols();
+  if (index < 0 || index >= (column ? grdGrid1.Cols() : grdGrid1.Rows())) {
+    messages_.Show(column ? "Invalid input for the column." : "Invalid input for the row.", kCalculatorTitle,
+                   MsgIcon::Information);
+    return false;
+  }
+  // The grid is parked while the target line, its empty cells made 0, goes
+  // through the operation; only that line is written back.
+  const Grid parked = grdGrid1;
+  for (int k = 0; k < count; ++k) {
+    const int r = column ? k : index;
+    const int c = column ? index : k;
+    if (grdGrid1.TextMatrix(r, c).empty()) grdGrid1.SetTextMatrix(r, c, "0");
+  }
+  AddZeros(chNule, grdGrid1, grdGrid2);
+  const bool read = Routines.GridToMatrix(grdGrid1, MatrixA) != 1 && !Routines.ReadFailed;
+  grdGrid1 = parked;
+  if (!read) return false;
+  compute(Context.Precision);
+  if (MatrixS.ErrNumber() != 0) {
+    messages_.Show(MatrixS.ErrDescription(), "Error", MsgIcon::Critical);
+    return false;
+  }
+  for (int k = 0; k < count; ++k) {
+    const int r = column ? k : index;
+    const int c = column ? index : k;
+    grdGrid1.SetTextMatrix(r, c, MatrixS.Item(r, c).RectText());
+  }
+  return true;
+}
+
+bool MatrixCalculator::MultiplyLine(bool column, int index, const std::string& factor) {
+  try {
+    complex::ComplexNumber r;
+    r.SetRectText(factor);
+    return LineStep(column, index, [&](std::int32_t p) {
+      if (column) {
+        MatrixS.ScalarMultiplyColumn(MatrixA, r, index, p);
+      } else {
+        MatrixS.ScalarMultiplyRow(MatrixA, r, index, p);
+      }
+    });
+  } catch (const expr::Fault& fault) {
+    messages_.Show(fault.what(), column ? "Multiply Column" : "Multiply Row", MsgIcon::Critical);
+    return false;
+  }
+}
+
+bool MatrixCalculator::SubmitLine(bool column, int from, int to) {
+  try {
+    const int limit = column ? grdGrid1.Cols() : grdGrid1.Rows();
+    if (from < 0 || from >= limit) {
+      messages_.Show(column ? "Invalid input for the column." : "Invalid input for the row.",
+                     kCalculatorTitle, MsgIcon::Information);
+      return false;
+    }
+    return LineStep(column, to, [&](std::int32_t p) {
+      if (column) {
+        MatrixS.AddColumn(MatrixA, to, from, p);
+      } else {
+        MatrixS.AddRow(MatrixA, to, from, p);
+      }
+    });
+  } catch (const expr::Fault& fault) {
+    messages_.Show(fault.what(), column ? "Submit Column" : "Submit Row", MsgIcon::Critical);
+    return false;
+  }
+}
+
 bool MatrixCalculator::EnterValues() {
   Context.Precision = PrecisionAtGo(txtPrecision);
   if (!SizeFromGrid(MatrixA, "Matrix A", grdGrid1)) return false;

@@ -1,6 +1,7 @@
 #pragma once
 
 #include <cstdint>
+#include <functional>
 #include <string>
 
 #include "complex/complexnumber.h"
@@ -22,6 +23,17 @@ class MatrixCalculator {
   enum Tab { kTabA = 0, kTabB = 1, kTabSolution = 2, kTabInverse = 3, kTabSwap = 4 };
 
   explicit MatrixCalculator(platform::MessageBox& messages);
+  MatrixCalculator(const MatrixCalculator&) = default;
+
+  // Where the keyboard goes after "&Continue": nowhere when the sizes were
+  // taken, else the entry box whose text was refused.
+  enum class ContinueFocus { None, Entry1, Entry2 };
+
+  // "&Continue": the size of [A] from the first entry box and, by the
+  // operation, the size of [B] or the scalar from the second; the sizes are
+  // checked for the operation and the operand grids take them (keeping the
+  // texts of the cells that remain).
+  ContinueFocus Continue(const std::string& entry1, const std::string& entry2);
 
   // The sizes are taken from the operand grids as they stand (the route
   // after a file is opened or cells are pasted), the scalar from the second
@@ -40,6 +52,13 @@ class MatrixCalculator {
   bool Adjoint(int tab);                 // into grdSwap
   bool Trace(int tab);                   // a message box with the trace
   bool CharacteristicEquation(int tab);  // into txtEq
+
+  // Multiply a column (row) of [A] by a complex factor, or add the column
+  // (row) `from` to `to`, both 0-based: the line is computed through the
+  // matrix operations and written back into the grid, whose other cells
+  // stay as they were. False after a message.
+  bool MultiplyLine(bool column, int index, const std::string& factor);
+  bool SubmitLine(bool column, int from, int to);
 
   // What "Publish as HTML..." reports for the current operation.
   MatrixReport Report() const;
@@ -66,6 +85,8 @@ class MatrixCalculator {
   bool chNule = false;             // "Add zeros in empty cells"
 
  private:
+  bool SizeFromText(ComplexMatrix& m, const std::string& name, const std::string& text);
+  bool LineStep(bool column, int index, const std::function<void(std::int32_t)>& compute);
   bool SizeFromGrid(ComplexMatrix& m, const std::string& name, const Grid& grid);
   bool DeterminantInverse(const Grid& grid, ComplexMatrix& m, const std::string& name);
   bool Guarded(const char* title, bool (MatrixCalculator::*step)(int), int tab);

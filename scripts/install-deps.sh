@@ -12,6 +12,7 @@ packages=(
   libmuparser-dev libeigen3-dev
   clang libclang-rt-14-dev clang-format
   xvfb xauth x11-utils openbox xdotool
+  desktop-file-utils xdg-utils shared-mime-info libglib2.0-bin
   fonts-liberation fonts-dejavu-core
   python3-numpy
   libreoffice-writer-nogui xdg-utils

@@ -1,6 +1,7 @@
 // The real velmora program as processes: a second start is refused with its
 // warning and leaves the first running; a lock left by a killed process does
-// not block the next start; a command-line file is accepted and noted.
+// not block the next start; a command-line file opens in the Matrix
+// Calculator, also when a second start hands it to the first.
 #include <gtest/gtest.h>
 
 #include <QDir>
@@ -38,6 +39,7 @@ struct Programs {
     env.insert(QStringLiteral("XDG_DATA_HOME"), home.filePath(QStringLiteral("data")));
     env.insert(QStringLiteral("XDG_RUNTIME_DIR"), home.filePath(QStringLiteral("runtime")));
     env.insert(QStringLiteral("VELMORA_TEST_BOXES"), QStringLiteral("stderr"));
+    env.insert(QStringLiteral("VELMORA_STATE_PROBE"), QStringLiteral("1"));
     if (probe) env.insert(QStringLiteral("VELMORA_STARTUP_PROBE"), QStringLiteral("1"));
     return env;
   }
@@ -108,14 +110,48 @@ TEST(SingleInstance, ALockLeftByAKilledProcessDoesNotBlockTheNextStart) {
   EXPECT_TRUE(err.contains("startup: ready Graph 1")) << err.constData();
 }
 
-TEST(SingleInstance, AMatrixFileOnTheCommandLineIsNotedAndGraph1Shows) {
+TEST(SingleInstance, AMatrixFileOnTheCommandLineOpensInTheMatrixCalculator) {
   Programs programs;
-  QProcess& p = programs.Start(true, {QStringLiteral("/tmp/some matrix.mcf")});
+  const QString file = programs.home.filePath(QStringLiteral("some matrix.mcf"));
+  QFile out(file);
+  ASSERT_TRUE(out.open(QIODevice::WriteOnly));
+  out.write(" 2  3 \r\n1\r\n2\r\n3\r\n4\r\n5\r\n6\r\n");
+  out.close();
+  QProcess& p = programs.Start(true, {file});
   ASSERT_TRUE(p.waitForFinished(15000));
   const QByteArray err = p.readAllStandardError();
-  EXPECT_TRUE(err.contains("the matrix file \"/tmp/some matrix.mcf\" was not opened")) << err.constData();
+  EXPECT_TRUE(err.contains(("matrix: opened " + file + " as 2x3").toLocal8Bit())) << err.constData();
   EXPECT_TRUE(err.contains("startup: ready Graph 1")) << err.constData();
   EXPECT_EQ(p.exitCode(), 0);
+}
+
+TEST(SingleInstance, ASecondStartWithAFileHandsItToTheFirst) {
+  Programs programs;
+  QProcess& first = programs.Start(false);
+  ASSERT_TRUE(programs.WaitForLock(first));
+  const QString file = programs.home.filePath(QStringLiteral("handed.mcf"));
+  QFile out(file);
+  ASSERT_TRUE(out.open(QIODevice::WriteOnly));
+  out.write(" 3  1 \r\n1\r\n2\r\n3\r\n");
+  out.close();
+  // Handed over by a relative name from the file's folder.
+  programs.started.push_back(std::make_unique<QProcess>());
+  QProcess& second = *programs.started.back();
+  QProcessEnvironment env = programs.Environment(false);
+  second.setProcessEnvironment(env);
+  second.setWorkingDirectory(programs.home.path());
+  second.start(kProgram, {QStringLiteral("handed.mcf")});
+  ASSERT_TRUE(second.waitForFinished(10000)) << "the second start did not end";
+  EXPECT_EQ(second.exitCode(), 0);
+  EXPECT_FALSE(second.readAllStandardError().contains("is already running!"));
+  // The first, still running, opened it.
+  QByteArray err;
+  for (int i = 0; i < 100 && !err.contains("matrix: opened"); ++i) {
+    first.waitForReadyRead(100);
+    err += first.readAllStandardError();
+  }
+  EXPECT_TRUE(err.contains(("matrix: opened " + file + " as 3x1").toLocal8Bit())) << err.constData();
+  EXPECT_EQ(first.state(), QProcess::Running);
 }
 
 }  // namespace

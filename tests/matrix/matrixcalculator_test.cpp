@@ -295,5 +295,65 @@ TEST_F(MatrixCalculatorTest, ReportTakesTheCurrentOperationAndBoxes) {
   EXPECT_EQ(&report.inverse, &calc_.grdInverse);
 }
 
+// "&Continue" with the sizes typed, one case a row.
+struct ContinueCase {
+  std::int16_t operation;
+  const char* entry1;
+  const char* entry2;
+  MatrixCalculator::ContinueFocus focus;
+  int rowsA, colsA, rowsB, colsB;  // the operand grids afterwards
+  const char* message;
+  const char* why;
+};
+
+TEST_F(MatrixCalculatorTest, ContinueSizesTheGridsOrNamesTheBoxAtFault) {
+  using F = MatrixCalculator::ContinueFocus;
+  const ContinueCase cases[] = {
+      {kAdd, "3x2", "3 x 2", F::None, 3, 2, 3, 2, "", "both operands sized"},
+      {kMultiply, "2x3", "3x1", F::None, 2, 3, 3, 1, "", "columns of [A] = rows of [B]"},
+      {kSolutionSet, "3x3", "9x9", F::None, 3, 3, 3, 1, "", "the solution's [B] is n x 1 whatever is typed"},
+      {kAdd, "51x2", "2x2", F::Entry1, 2, 2, 2, 2, "Matrix A maximum size is 50x50.", "too many rows"},
+      {kAdd, "2x2", "-2x3", F::Entry2, 2, 2, 2, 2,
+       "Invalid number of rows and columns in Matrix B. A valid matrix must have at least 1 row and 1 "
+       "column.",
+       "-2x3 passes the parse as 0 rows and is refused here"},
+      {kScalarDivide, "2x2", "1+jj", F::Entry2, 2, 2, 2, 2,
+       "The Scalar Constant must be a valid complex number.", "a scalar that is no number"},
+      {kSubtract, "2x2", "2x3", F::Entry1, 2, 2, 2, 2,
+       "Matrix A and Matrix B must be the same order to perform subtraction.", "the check of the operation"},
+  };
+  for (const ContinueCase& c : cases) {
+    RecordingMessageBox box;
+    MatrixCalculator calc(box);
+    calc.Operation = c.operation;
+    EXPECT_EQ(calc.Continue(c.entry1, c.entry2), c.focus) << c.why;
+    EXPECT_EQ(calc.grdGrid1.Rows(), c.rowsA) << c.why;
+    EXPECT_EQ(calc.grdGrid1.Cols(), c.colsA) << c.why;
+    EXPECT_EQ(calc.grdGrid2.Rows(), c.rowsB) << c.why;
+    EXPECT_EQ(calc.grdGrid2.Cols(), c.colsB) << c.why;
+    if (c.message[0] == '\0') {
+      EXPECT_TRUE(box.Boxes().empty()) << c.why;
+    } else {
+      ASSERT_EQ(box.Boxes().size(), 1U) << c.why;
+      EXPECT_EQ(box.Boxes()[0].text, c.message) << c.why;
+    }
+  }
+}
+
+TEST_F(MatrixCalculatorTest, ALineOperationWritesBackOnlyItsLine) {
+  calc_.grdGrid1 = MakeGrid({{"1", "2"}, {"3", ""}});
+  // The empty cell of the target column becomes 0 on its way through.
+  EXPECT_TRUE(calc_.MultiplyLine(true, 1, "10"));
+  EXPECT_EQ(GridTexts(calc_.grdGrid1), (Rows{{"1", "20"}, {"3", "0"}}));
+  // Row 1 added to row 2; the empty cell elsewhere would stop a whole run,
+  // but the line commands fill only their own line.
+  calc_.grdGrid1 = MakeGrid({{"1", "2"}, {"3", "4"}});
+  EXPECT_TRUE(calc_.SubmitLine(false, 0, 1));
+  EXPECT_EQ(GridTexts(calc_.grdGrid1), (Rows{{"1", "2"}, {"4", "6"}}));
+  EXPECT_TRUE(box_.Boxes().empty());
+  EXPECT_FALSE(calc_.SubmitLine(true, 5, 0));
+  ExpectOneBox("Invalid input for the column.", kCalculatorTitle, platform::MsgIcon::Information);
+}
+
 }  // namespace
 }  // namespace velmora::matrix
