@@ -9,6 +9,7 @@
 #include <QListWidget>
 #include <QMenu>
 #include <QPushButton>
+#include <QSignalBlocker>
 #include <QTabWidget>
 #include <QVBoxLayout>
 
@@ -112,11 +113,14 @@ QWidget* FrmConvert::MakeListTab(ListTab& tab) {
 
   const std::size_t index = static_cast<std::size_t>(&tab - lists_.data());
   const std::string fromName(page.fromList), toName(page.toList), output(page.output);
-  connect(tab.from, &QListWidget::itemClicked, this, [this, fromName, index](QListWidgetItem*) {
-    ChooseUnit(fromName, lists_[index].from->currentRow());
-  });
-  connect(tab.to, &QListWidget::itemClicked, this,
-          [this, toName, index](QListWidgetItem*) { ChooseUnit(toName, lists_[index].to->currentRow()); });
+  // A click chooses the entry even when it is already the current one; the
+  // arrow keys choose by moving the current entry.
+  for (QListWidget* list : {tab.from, tab.to}) {
+    const std::string name = list == tab.from ? fromName : toName;
+    connect(list, &QListWidget::itemClicked, this,
+            [this, name, list](QListWidgetItem*) { ChooseUnit(name, list->currentRow()); });
+    connect(list, &QListWidget::currentRowChanged, this, [this, name](int row) { ChooseUnit(name, row); });
+  }
   connect(tab.input, &QLineEdit::returnPressed, this, [this, index] { ConvertPage(index); });
   connect(convert, &QPushButton::clicked, this, [this, index] { ConvertPage(index); });
   connect(copy, &QPushButton::clicked, this, [this, output] { CopyBox(output); });
@@ -167,9 +171,11 @@ void FrmConvert::ChooseUnit(std::string_view list, int row) {
   for (auto& tab : lists_) {
     const geometry::ListPage& page = tab.converter->Page();
     if (page.fromList == list) {
+      const QSignalBlocker quiet(tab.from);
       tab.from->setCurrentRow(row);
       tab.converter->ChooseFrom(static_cast<std::size_t>(row), *services_.messages);
     } else if (page.toList == list) {
+      const QSignalBlocker quiet(tab.to);
       tab.to->setCurrentRow(row);
       tab.converter->ChooseTo(static_cast<std::size_t>(row), *services_.messages);
     } else {
