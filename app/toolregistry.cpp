@@ -2,6 +2,8 @@
 
 #include "app/frmmain.h"
 #include "app/toolwindowhost.h"
+#include "geometry/qt/frmconvert.h"
+#include "geometry/qt/frmgeo.h"
 
 namespace velmora::app {
 
@@ -9,8 +11,12 @@ void RegisterToolWindows(ToolWindowHost& host, const FrameServices& services) {
   // One line a tool window, e.g.
   //   host.Register(platform::ToolWindow::MathPad,
   //                 [&services, &host](QWidget* owner) { return new ...(owner, ...); });
-  (void)host;
-  (void)services;
+  host.Register(platform::ToolWindow::Geometry, [&services](QWidget* owner) {
+    return new geometry_qt::FrmGeo(owner, {services.messages, services.files, nullptr});
+  });
+  host.Register(platform::ToolWindow::Converter, [&services, &host](QWidget* owner) {
+    return new geometry_qt::FrmConvert(owner, {services.messages, &host, nullptr});
+  });
 }
 
 }  // namespace velmora::app

@@ -38,6 +38,13 @@ Pt Unit(Pt v) {
   const double n = std::hypot(v.x, v.y);
   return n > 0 ? Pt{v.x / n, v.y / n} : Pt{0, 0};
 }
+// The unit normal of the line ab on the side away from `inside`.
+Pt Outward(Pt a, Pt b, Pt inside) {
+  Pt n = Unit({-(b.y - a.y), b.x - a.x});
+  const Pt m = Mid(a, b);
+  if (n.x * (inside.x - m.x) + n.y * (inside.y - m.y) > 0) n = {-n.x, -n.y};
+  return n;
+}
 Pt Along(Pt from, Pt dir, double length) { return {from.x + dir.x * length, from.y + dir.y * length}; }
 
 // Positive numbers, or nothing.
@@ -135,8 +142,8 @@ Sketch DrawTriangle(const Figure& f) {
   s.labels.push_back({B, "B", Unit(Minus(B, g))});
   s.labels.push_back({C, "C", Unit(Minus(C, g))});
   s.labels.push_back({Mid(B, C), Named("a", f, "txtta", solved), {0, -1}});
-  s.labels.push_back({Mid(C, A), Named("b", f, "txttb", solved), Unit(Minus(Mid(C, A), g))});
-  s.labels.push_back({Mid(A, B), Named("c", f, "txttc", solved), Unit(Minus(Mid(A, B), g))});
+  s.labels.push_back({Mid(C, A), Named("b", f, "txttb", solved), Outward(C, A, g)});
+  s.labels.push_back({Mid(A, B), Named("c", f, "txttc", solved), Outward(A, B, g)});
   return s;
 }
 
@@ -172,7 +179,7 @@ Sketch DrawPolygon(const Figure& f) {
   const Pt bottom = Mid(corners[0], corners[1]);
   Measure(s, O, bottom, Named("H", f, "txtPH", solved), {-1, 0});
   const Pt right = corners[1], next = corners[2 % count];
-  Measure(s, O, right, Named("R", f, "txtPR", solved), Unit({right.y, -right.x}));
+  Measure(s, O, right, Named("R", f, "txtPR", solved), Outward(O, right, bottom));
   s.segments.push_back({O, next, Stroke::Dashed});
   AngleMark(s, O, right, next, R * 0.22);
   const double mid = std::atan2(right.y, right.x) + step / 2;
@@ -206,8 +213,8 @@ Sketch DrawEuclid(const Figure& f) {
   s.labels.push_back({Mid(C, D), Named("m", f, "txtecm", solved), {0, -1}});
   s.labels.push_back({Mid(D, B), Named("n", f, "txtecn", solved), {0, -1}});
   s.labels.push_back({Mid(A, D), Named("h", f, "txtech", solved), {*m < *n ? 1.0 : -1.0, 0}});
-  s.labels.push_back({Mid(C, A), Named("b", f, "txtecb", solved), {-0.8, 0.6}});
-  s.labels.push_back({Mid(A, B), Named("c", f, "txtecc", solved), {0.8, 0.6}});
+  s.labels.push_back({Mid(C, A), Named("b", f, "txtecb", solved), Outward(C, A, D)});
+  s.labels.push_back({Mid(A, B), Named("c", f, "txtecc", solved), Outward(A, B, D)});
   const double below = -0.16 * std::max(a, h);
   Dimension(s, {0, below}, {a, below}, a * 0.02, Named("a", f, "txteca", solved), {0, -1});
   return s;

@@ -23,7 +23,7 @@ void FigureView::paintEvent(QPaintEvent*) {
   QPainter painter(this);
   painter.fillRect(rect(), Qt::white);
   const QRectF area(rect());
-  PaintSketch(painter, sketch_.FittedTo(area.width(), area.height(), kFigureMargin), area);
+  PaintSketch(painter, FitToPicture(sketch_, area.size()), area);
   painter.setPen(QColor(170, 176, 186));
   painter.drawRect(rect().adjusted(0, 0, -1, -1));
 }

@@ -1,5 +1,6 @@
 #include "geometry/qt/sketchpainter.h"
 
+#include <algorithm>
 #include <cmath>
 #include <numbers>
 
@@ -48,18 +49,17 @@ QFont LabelFont(bool italic) {
   return font;
 }
 
-// The text's box beside its anchor, pushed off it along `away` far enough
-// that the nearest corner clears the anchor by a few pixels.
+// The text's box beside its anchor, pushed off it along `away` until the
+// box clears the line through the anchor square to `away`, plus a gap: a
+// label beside a side never touches that side.
 QRectF LabelBox(const QFontMetricsF& metrics, const QString& text, Pt anchor, Pt away) {
   const QSizeF size(metrics.horizontalAdvance(text) + 2, metrics.height());
   const double length = std::hypot(away.x, away.y);
   QPointF centre(anchor.x, anchor.y);
   if (length > 0) {
     const double ux = away.x / length, uy = away.y / length;
-    // Distance from the box's centre to its edge along (ux, uy), plus a gap.
-    const double reach = std::min(std::abs(ux) > 1e-9 ? size.width() / 2 / std::abs(ux) : 1e9,
-                                  std::abs(uy) > 1e-9 ? size.height() / 2 / std::abs(uy) : 1e9) +
-                         5.0;
+    // How far the box reaches along (ux, uy) from its centre.
+    const double reach = size.width() / 2 * std::abs(ux) + size.height() / 2 * std::abs(uy) + 4.0;
     centre += QPointF(ux * reach, uy * reach);
   }
   return QRectF(centre.x() - size.width() / 2, centre.y() - size.height() / 2, size.width(), size.height());
@@ -156,13 +156,35 @@ void PaintSketch(QPainter& painter, const geometry::Sketch& fitted, const QRectF
   painter.restore();
 }
 
+geometry::Sketch FitToPicture(const geometry::Sketch& sketch, QSizeF size) {
+  // Fitted with a first guess of the room the labels need, then again with
+  // more room as long as a label would stand outside the picture (or under
+  // the caption).
+  const QFontMetricsF metrics(LabelFont(true));
+  const double top = sketch.caption.empty() ? 4.0 : 24.0;
+  double margin = 30.0;
+  geometry::Sketch fitted = sketch.FittedTo(size.width(), size.height(), margin);
+  for (int pass = 0; pass < 4; ++pass) {
+    double over = 0;
+    for (const auto& l : fitted.labels) {
+      const QRectF box = LabelBox(metrics, qtplatform::ToQString(l.text), l.anchor, l.away);
+      over = std::max({over, 4.0 - box.left(), box.right() - size.width() + 4.0, top - box.top(),
+                       box.bottom() - size.height() + 4.0});
+    }
+    if (over <= 0.5 || margin > std::min(size.width(), size.height()) / 3) break;
+    margin += over;
+    fitted = sketch.FittedTo(size.width(), size.height(), margin);
+  }
+  return fitted;
+}
+
 QImage RenderSketch(const geometry::Sketch& sketch, QSize size, qreal devicePixelRatio) {
   QImage image(size * devicePixelRatio, QImage::Format_RGB32);
   image.setDevicePixelRatio(devicePixelRatio);
   image.fill(Qt::white);
   QPainter painter(&image);
   const QRectF area(0, 0, size.width(), size.height());
-  PaintSketch(painter, sketch.FittedTo(area.width(), area.height(), kFigureMargin), area);
+  PaintSketch(painter, FitToPicture(sketch, area.size()), area);
   return image;
 }
 

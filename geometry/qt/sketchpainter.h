@@ -16,7 +16,8 @@ void PaintSketch(QPainter& painter, const geometry::Sketch& fitted, const QRectF
 // The figure fitted to `size` and painted on a white picture.
 QImage RenderSketch(const geometry::Sketch& sketch, QSize size, qreal devicePixelRatio = 1.0);
 
-// The room left free round a figure for its labels, in pixels.
-inline constexpr double kFigureMargin = 34.0;
+// The figure fitted to a picture of `size`, with room round it for its
+// widest label (at least 34 pixels, at most a fifth of the picture).
+geometry::Sketch FitToPicture(const geometry::Sketch& sketch, QSizeF size);
 
 }  // namespace velmora::geometry_qt
