@@ -130,7 +130,8 @@ Sketch DrawTriangle(const Figure& f) {
     } else {
       AngleMark(s, foot, A, {foot.x - 1, 0}, shortest * 0.12);
     }
-    s.labels.push_back({Mid(A, foot), Named("ha", f, "txttha", solved), {foot.x > *a / 2 ? -1.0 : 1.0, 0}});
+    // The letter only: a value would crowd a low triangle's height.
+    s.labels.push_back({Mid(A, foot), "ha", {foot.x > *a / 2 ? -1.0 : 1.0, 0}});
   }
 
   const double mark = shortest * 0.2;
@@ -276,8 +277,11 @@ Sketch DrawRing(const Figure& f) {
   s.arcs.push_back({O, r, r, 0, 2 * kPiD, Stroke::Edge});
   s.dots.push_back(O);
   const double t = kPiD / 5;
-  Measure(s, O, {R * std::cos(t), R * std::sin(t)}, Named("R", f, "txtKR", solved), {-0.6, 0.8});
-  Measure(s, O, {-r * std::cos(t), -r * std::sin(t)}, Named("r", f, "txtKrmalo", solved), {-0.6, 0.8});
+  // R labelled in the band between the circles, clear of the inner one.
+  const Pt dir{std::cos(t), std::sin(t)};
+  s.segments.push_back({O, Along(O, dir, R), Stroke::Measure});
+  s.labels.push_back({Along(O, dir, (R + r) / 2), Named("R", f, "txtKR", solved), {-dir.y, dir.x}});
+  Measure(s, O, Along(O, dir, -r), Named("r", f, "txtKrmalo", solved), {-dir.y, dir.x});
   return s;
 }
 
@@ -327,11 +331,17 @@ Sketch DrawSphereFrustrum(const Figure& f) {
   const double cut = R - H;
   const double half = std::sqrt(std::max(0.0, R * R - cut * cut));
   const double from = std::asin(std::clamp(cut / R, -1.0, 1.0));
+  // The zone's surface in view: the sphere's arc over the cut, then back
+  // along the near half of the cut's rim.
   std::vector<Pt> cap;
   constexpr int kSteps = 96;
   for (int i = 0; i <= kSteps; ++i) {
     const double t = from + (kPiD - 2 * from) * i / kSteps;
     cap.push_back({R * std::cos(t), R * std::sin(t)});
+  }
+  for (int i = 1; i < kSteps; ++i) {
+    const double t = kPiD + kPiD * i / kSteps;
+    cap.push_back({half * std::cos(t), cut + half * kTilt * std::sin(t)});
   }
   s.regions.push_back({{cap}});
   s.arcs.push_back({O, R, R, 0, 2 * kPiD, Stroke::Dashed});
@@ -352,7 +362,18 @@ Sketch DrawConeFrustrum(const Figure& f) {
   const double top = solved ? *q : R * (H - cut) / H;
   Sketch s;
   const Pt apex{0, H};
-  s.regions.push_back({{{{-R, 0}, {R, 0}, {top, cut}, {-top, cut}}}});
+  // The surface in view: the top face, the side, the near half of the base.
+  std::vector<Pt> body;
+  constexpr int kSteps = 64;
+  for (int i = 0; i <= kSteps; ++i) {
+    const double t = kPiD * i / kSteps;
+    body.push_back({top * std::cos(t), cut + top * kTilt * std::sin(t)});
+  }
+  for (int i = 0; i <= kSteps; ++i) {
+    const double t = kPiD + kPiD * i / kSteps;
+    body.push_back({R * std::cos(t), R * kTilt * std::sin(t)});
+  }
+  s.regions.push_back({{body}});
   Rim(s, {0, 0}, R, false);
   s.arcs.push_back({{0, cut}, top, top * kTilt, 0, 2 * kPiD, Stroke::Edge});
   s.segments.push_back({{-R, 0}, {-top, cut}, Stroke::Edge});
@@ -386,7 +407,14 @@ Sketch DrawEllipsoid(const Figure& f) {
   s.dots.push_back(O);
   Measure(s, O, {a, 0}, Named("R1", f, "txtRe1", solved), {0, 1});
   Measure(s, O, {0, b}, Named("R2", f, "txtRe2", solved), {1, 0});
-  if (third) Measure(s, O, {-a * 0.35, -c * kTilt * 0.94}, Named("R3", f, "txtRe3", solved), {-0.4, -1});
+  if (third) {
+    // The third radius points at the viewer: to the near side of the rim,
+    // labelled below the rim.
+    const double t = kPiD * 1.3;
+    const Pt end{a * std::cos(t), c * kTilt * std::sin(t)};
+    s.segments.push_back({O, end, Stroke::Measure});
+    s.labels.push_back({end, Named("R3", f, "txtRe3", solved), {-0.2, -1}});
+  }
   return s;
 }
 
