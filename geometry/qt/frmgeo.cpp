@@ -100,16 +100,18 @@ QImage FrmGeo::Picture() const {
 
 bool FrmGeo::SavePicture() {
   if (services_.files == nullptr) return false;
+  return geometry::SaveFigurePicture(*services_.files, *services_.messages,
+                                     [this](const std::string& path) { return Savjpg(ToQString(path)); });
+}
+
+bool FrmGeo::Savjpg(const QString& path) const {
   const QImage picture = Picture();
-  return geometry::SaveFigurePicture(
-      *services_.files, *services_.messages, [&picture](const std::string& path) {
-        // Written beside the target and renamed over it: a failed save never
-        // leaves half a file.
-        return qtplatform::SaveFileAtomically(ToQString(path), [&picture](QIODevice& file) {
-          QImageWriter writer(&file, "bmp");
-          return writer.write(picture);
-        });
-      });
+  // Written beside the target and renamed over it: a failed save never
+  // leaves half a file.
+  return qtplatform::SaveFileAtomically(path, [&picture](QIODevice& file) {
+    QImageWriter writer(&file, "bmp");
+    return writer.write(picture);
+  });
 }
 
 }  // namespace velmora::geometry_qt

@@ -52,9 +52,13 @@ class FrmGeo final : public QWidget {
   void CopyPicture();
   // The current page's figure as it shows it; the picture every save writes.
   QImage Picture() const;
-  // `Sav1` of the calculator: the figure saved as a bitmap. A JPEG save
-  // asks Picture() for the same picture.
+  // `Sav1` of the calculator: the figure saved as a bitmap after the save
+  // dialog and its questions.
   bool SavePicture();
+  // `Savjpg`: the figure written as a bitmap to `path` without a question,
+  // the hand-over file the JPEG export reads. The one place a picture
+  // leaves the calculator for another format.
+  bool Savjpg(const QString& path) const;
 
  private:
   void AppendResult(const QString& text);

@@ -179,6 +179,8 @@ void GeoPageWidget::BuildBoxes(QGridLayout* grid) {
     }
     grid->addWidget(label, row, col, Qt::AlignRight);
     grid->addWidget(edit, row, col + 1);
+    // Enter in a box acts as the page's main command: the case menu opens.
+    connect(edit, &QLineEdit::returnPressed, this, [this] { calculate_->click(); });
     boxes_.emplace(name, edit);
     labels_.emplace(name, label);
   }

@@ -387,5 +387,19 @@ TEST(FrmGeoTest, TheFigureIsSavedAsABitmap) {
   EXPECT_TRUE(messages.Boxes().empty());
 }
 
+TEST(FrmGeoTest, SavjpgWritesTheHandOverBitmapWithoutAQuestion) {
+  QTemporaryDir folder;
+  ASSERT_TRUE(folder.isValid());
+  const QString path = folder.filePath(QStringLiteral("temp.bmp"));
+  QFile old(path);
+  ASSERT_TRUE(old.open(QIODevice::WriteOnly));
+  old.write("old");
+  old.close();
+  Window w;
+  EXPECT_TRUE(w.window->Savjpg(path));
+  EXPECT_EQ(QImage(path).size(), w.window->Picture().size());
+  EXPECT_TRUE(w.messages.Boxes().empty());
+}
+
 }  // namespace
 }  // namespace velmora::geometry_qt
