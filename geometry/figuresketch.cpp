@@ -155,7 +155,9 @@ Sketch DrawPolygon(const Figure& f) {
     return s;
   }
   auto n = Value(f, "txtPN"), r = Value(f, "txtPR");
-  const bool solved = Positive({n, r}) && *n >= 3 && *n <= 16 && *n == std::floor(*n);
+  // A fraction of a side has no figure; a schematic one would mislead.
+  if (Positive({n, r}) && *n >= 3 && *n != std::floor(*n)) return s;
+  const bool solved = Positive({n, r}) && *n >= 3 && *n <= 16;
   if (!solved) {
     n = 6.0;
     r = 1.0;

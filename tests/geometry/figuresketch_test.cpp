@@ -158,6 +158,14 @@ TEST(FigureSketchTest, PastSixteenSidesThePolygonGivesItsNoteInsteadOfAFigure) {
   EXPECT_EQ(s.note, "For N > 16 preview not available.");
 }
 
+TEST(FigureSketchTest, AFractionalPolygonIsSolvedButNotDrawn) {
+  const Figure f = Solved("polygon", "a", {"3.5", "1"});
+  EXPECT_FALSE(f.boxes.Text("txtPR").empty());  // the formulas ran on the fraction
+  const Sketch s = FigureSketch("polygon", f);
+  EXPECT_TRUE(s.Empty());
+  EXPECT_EQ(s.caption, "");
+}
+
 TEST(FigureSketchTest, ShadeSphereLightsTheDiscInsteadOfTintingIt) {
   const Figure f = Solved("sphere", "mnulopta1", {"3"});
   const Sketch plain = FigureSketch("sphere", f);

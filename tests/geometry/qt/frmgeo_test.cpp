@@ -24,6 +24,7 @@
 
 #include "geometry/qt/figureview.h"
 #include "geometry/qt/geopagewidget.h"
+#include "geometry/qt/sketchpainter.h"
 #include "tests/cli/clirun.h"
 #include "tests/support/recordingclipboard.h"
 #include "tests/support/recordingmessagebox.h"
@@ -385,6 +386,17 @@ TEST(FrmGeoTest, TheFigureIsSavedAsABitmap) {
   const QImage back(saved.fileName());
   EXPECT_EQ(back.size(), window.Picture().size());
   EXPECT_TRUE(messages.Boxes().empty());
+}
+
+TEST(SketchPainterTest, AHighDensityPictureIsDrawnAtItsFullResolution) {
+  // The same figure on twice the pixels, for a screen of twice the density.
+  geometry::Sketch sketch;
+  sketch.segments.push_back({{0, 0}, {1, 1}});
+  const QImage normal = RenderSketch(sketch, QSize(200, 100));
+  const QImage dense = RenderSketch(sketch, QSize(200, 100), 2.0);
+  EXPECT_EQ(dense.size(), QSize(400, 200));
+  EXPECT_EQ(dense.deviceIndependentSize(), QSizeF(200, 100));
+  EXPECT_GT(InkedPixels(dense), InkedPixels(normal));
 }
 
 TEST(FrmGeoTest, SavjpgWritesTheHandOverBitmapWithoutAQuestion) {
