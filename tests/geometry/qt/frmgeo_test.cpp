@@ -12,7 +12,9 @@
 #include <QAction>
 #include <QApplication>
 #include <QCheckBox>
+#include <QClipboard>
 #include <QFile>
+#include <QGuiApplication>
 #include <QLabel>
 #include <QLineEdit>
 #include <QMenu>
@@ -354,6 +356,19 @@ TEST(FrmGeoTest, CopyPutsTheResultsOnTheClipboardAndTheLogGrows) {
   EXPECT_NE(copied.find("Circle: R = 1"), std::string::npos) << copied;
   EXPECT_NE(copied.find("Circle: R = 2"), std::string::npos) << copied;
   EXPECT_LT(copied.find("Circle: R = 1"), copied.find("Circle: R = 2"));
+}
+
+TEST(FrmGeoTest, CopyPicturePutsTheFigureOnTheClipboard) {
+  Window w;
+  GeoPageWidget& page = w.Open("Cone");
+  page.Box("txtCR")->setText(QStringLiteral("3"));
+  page.Box("txtCH")->setText(QStringLiteral("4"));
+  ChooseFromMenu(page, "mnuK1");
+  w.window->findChild<QPushButton*>(QStringLiteral("cmdCopyPicture"))->click();
+  const QImage copied = QGuiApplication::clipboard()->image();
+  EXPECT_EQ(copied.size(), page.Figure()->size());
+  EXPECT_EQ(copied.convertToFormat(QImage::Format_RGB32),
+            w.window->Picture().convertToFormat(QImage::Format_RGB32));
 }
 
 class SaveDialog final : public platform::FileDialog {
