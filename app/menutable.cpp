@@ -119,9 +119,9 @@ constexpr std::array kTools{
     // The scientific calculator's entry has no action in this version.
     MenuItem{"mnuTools", 11, "&Scientific Calculator...", "", C::ToolScientific, E::NotBuilt},
     MenuItem{"mnuTools", 12, "&Complex Calculator...", "", C::ToolComplex, E::Always},
-    MenuItem{"mnuTools", 13, "&Geometry Calculator...", "", C::ToolGeometry, E::NotBuilt},
+    MenuItem{"mnuTools", 13, "&Geometry Calculator...", "", C::ToolGeometry, E::Always},
     MenuItem{"mnuTools", 14, "&Matrix Calculator...", "", C::ToolMatrix, E::Always},
-    MenuItem{"mnuTools", 15, "&Units Converter...", "", C::ToolConverter, E::NotBuilt},
+    MenuItem{"mnuTools", 15, "&Units Converter...", "", C::ToolConverter, E::Always},
     Sep("mnuTools", 16),
     MenuItem{"mnuTools", 17, "Mat&hPad", "", C::ToolMathPad},
 };

@@ -3,6 +3,7 @@
 #include <cstdio>
 #include <initializer_list>
 #include <utility>
+#include <vector>
 
 #include <QAbstractButton>
 #include <QAction>
@@ -17,12 +18,16 @@
 #include <QPixmap>
 #include <QPushButton>
 #include <QRadioButton>
+#include <QTabWidget>
 #include <QTextEdit>
 
 #include "app/framemenus.h"
 #include "app/frmmain.h"
 #include "app/toolwindowhost.h"
 #include "complex/qt/frmcomplex.h"
+#include "geometry/qt/frmconvert.h"
+#include "geometry/qt/frmgeo.h"
+#include "geometry/qt/geopagewidget.h"
 #include "graph/graphwindow.h"
 #include "graph/qt/frmfunc.h"
 #include "graph/qt/frmgridopt.h"
@@ -335,6 +340,58 @@ int MatrixScreenshots(FrmMain& frame, const QDir& dir) {
             {"8", "-11", "-3"});
   if (!Save(*m, dir, QStringLiteral("matrix-solution.png"))) ++failures;
   m->close();
+  return failures;
+}
+
+// The Geometry Calculator after one case on four of its pages
+// (geo-triangle.png, geo-circle.png, geo-polygon.png, geo-cone.png), and the
+// units converter after a choice in its lists (converter.png).
+int GeometryScreenshots(FrmMain& frame, const QDir& dir) {
+  int failures = 0;
+  frame.Tools().Show(platform::ToolWindow::Geometry);
+  Settle();
+  auto* geo = qobject_cast<geometry_qt::FrmGeo*>(frame.Tools().Window(platform::ToolWindow::Geometry));
+  if (geo == nullptr) return 5;
+  geo->resize(940, 620);
+  struct Case {
+    const char* page;
+    const char* option;
+    const char* entry;
+    std::vector<std::pair<const char*, const char*>> typed;
+    const char* file;
+  };
+  const Case cases[] = {
+      {"Triangle", "", "mnuabc", {{"txtta", "3"}, {"txttb", "4"}, {"txttc", "5"}}, "geo-triangle.png"},
+      {"Circle", "Arc", "mnuluk1", {{"txtKR", "2"}, {"txtKFi", "1.2"}}, "geo-circle.png"},
+      {"Polygon", "", "a", {{"txtPN", "6"}, {"txtPA", "2"}}, "geo-polygon.png"},
+      {"Cone", "", "mnuK1", {{"txtCR", "3"}, {"txtCH", "4"}}, "geo-cone.png"},
+  };
+  for (const auto& c : cases) {
+    geometry_qt::GeoPageWidget* page = geo->Page(c.page);
+    if (page == nullptr) {
+      ++failures;
+      continue;
+    }
+    geo->Tabs()->setCurrentWidget(page);
+    page->SelectOption(c.option);
+    for (const auto& [box, text] : c.typed) page->Box(box)->setText(QString::fromLatin1(text));
+    page->Choose(c.entry);
+    Settle();
+    if (!Save(*geo, dir, QString::fromLatin1(c.file))) ++failures;
+  }
+  geo->close();
+
+  frame.Tools().Show(platform::ToolWindow::Converter);
+  Settle();
+  auto* convert =
+      qobject_cast<geometry_qt::FrmConvert*>(frame.Tools().Window(platform::ToolWindow::Converter));
+  if (convert == nullptr) return failures + 1;
+  convert->Tabs()->setCurrentIndex(2);  // Lengths: miles to feet
+  convert->ChooseUnit("List5", 3);
+  convert->ChooseUnit("List6", 0);
+  Settle();
+  if (!Save(*convert, dir, QStringLiteral("converter.png"))) ++failures;
+  convert->close();
   Settle();
   return failures;
 }
@@ -381,6 +438,7 @@ int TakeScreenshots(FrmMain& frame, const QString& folder) {
   failures += AnalysisShots(frame, dir);
   failures += ComplexScreenshots(frame, dir);
   failures += MatrixScreenshots(frame, dir);
+  failures += GeometryScreenshots(frame, dir);
   return failures;
   return failures;
 }

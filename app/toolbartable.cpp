@@ -54,9 +54,9 @@ constexpr std::array kEvaluatorMenu{
 constexpr std::array kCalcMenu{
     ToolMenuItem{"c1", "Scientific Calculator...", C::ToolScientific, E::NotBuilt},
     ToolMenuItem{"c2", "Complex Calculator...", C::ToolComplex, E::Always},
-    ToolMenuItem{"c3", "Geometry Calculator...", C::ToolGeometry, E::NotBuilt},
+    ToolMenuItem{"c3", "Geometry Calculator...", C::ToolGeometry, E::Always},
     ToolMenuItem{"c4", "Matrix Calculator...", C::ToolMatrix, E::Always},
-    ToolMenuItem{"c6", "Units Converter...", C::ToolConverter, E::NotBuilt},
+    ToolMenuItem{"c6", "Units Converter...", C::ToolConverter, E::Always},
 };
 
 constexpr std::array kToolbar1{
@@ -84,7 +84,7 @@ constexpr std::array kToolbar3{
     // The scientific calculator's button has no action in this version.
     ToolButton{"Scientific", "Scientific", "Scientific calculator", C::ToolScientific, E::NotBuilt},
     ToolButton{"Complex", "Complex", "Complex calculator", C::ToolComplex, E::Always},
-    ToolButton{"Geometry", "Geometry", "Geometry calculator", C::ToolGeometry, E::NotBuilt},
+    ToolButton{"Geometry", "Geometry", "Geometry calculator", C::ToolGeometry, E::Always},
     ToolButton{"Matrix", "Matrix", "Matrix calculator", C::ToolMatrix, E::Always},
 };
 

@@ -20,6 +20,8 @@
 #include "complex/qt/frmcomplex.h"
 #include "matrix/qt/filetype.h"
 #include "matrix/qt/frmmatrice.h"
+#include "geometry/qt/frmconvert.h"
+#include "geometry/qt/frmgeo.h"
 
 namespace velmora::app {
 namespace {
@@ -107,6 +109,12 @@ void OpenMatrixFile(ToolWindowHost& host, const QString& path) {
                  grid.Cols());
     std::fflush(stderr);
   }
+  host.Register(platform::ToolWindow::Geometry, [&services](QWidget* owner) {
+    return new geometry_qt::FrmGeo(owner, {services.messages, services.files, nullptr});
+  });
+  host.Register(platform::ToolWindow::Converter, [&services, &host](QWidget* owner) {
+    return new geometry_qt::FrmConvert(owner, {services.messages, &host, nullptr});
+  });
 }
 
 }  // namespace velmora::app
