@@ -3,6 +3,7 @@
 #include <array>
 #include <cstdio>
 #include <filesystem>
+#include <regex>
 #include <string>
 #include <vector>
 
@@ -54,6 +55,14 @@ inline int FirstQuantEntry(const std::string& bytes) {
     }
   }
   return -1;
+}
+
+// The page count pdfinfo reads from a PDF file; -1 when it reads none.
+inline int PdfPages(const std::filesystem::path& file) {
+  const std::string info = RunTool("pdfinfo " + Quoted(file));
+  std::smatch match;
+  if (!std::regex_search(info, match, std::regex("Pages:\\s+(\\d+)"))) return -1;
+  return std::stoi(match[1]);
 }
 
 }  // namespace velmora::testing
