@@ -10,6 +10,7 @@
 #include "cli/normalisecommand.h"
 #include "cli/numbercommand.h"
 #include "cli/plotcommand.h"
+#include "cli/printtextcommand.h"
 
 namespace velmora::cli {
 
@@ -41,9 +42,12 @@ const std::vector<Command>& Commands() {
        RunMatrix},
       {"plot",
        "plot [--type T] --y TEXT [--x TEXT] [--zoom Z] [--right N] ... [--png F] [--trace] [--table] "
-       "[--status]: "
+       "[--status] [--jpeg F [--quality Q]] [--bmp F] [--pdf F]: "
        "a headless graph window",
        RunPlot},
+      {"print-text",
+       "print-text IN OUT.pdf [--settings F] [--html]: a text printed to PDF with the stored margins",
+       RunPrintText},
   };
   return table;
 }

@@ -3,10 +3,16 @@
 #include "graph/basicsurface.h"
 
 #ifdef VELMORA_HAVE_QT_SURFACE
+#include <QPageSize>
+#include <QPdfWriter>
 #include <QString>
 
 #include "graph/qt/headlessgui.h"
 #include "graph/qt/qimagesurface.h"
+#include "graph/settingnumber.h"
+#include "output/pagemargins.h"
+#include "output/qt/picturefiles.h"
+#include "output/qt/printout.h"
 #endif
 
 namespace velmora::cli {
@@ -23,6 +29,31 @@ class ImageCanvas final : public PlotCanvas {
     error = "cannot write " + file;
     return false;
   }
+  bool SaveJpeg(const std::string& file, int quality, std::string& error) override {
+    if (output_qt::SaveJpeg(surface_.Image(), QString::fromStdString(file), quality, &error)) return true;
+    error = "cannot write " + file + ": " + error;
+    return false;
+  }
+  bool SaveBmp(const std::string& file, std::string& error) override {
+    if (output_qt::SaveBmp(surface_.Image(), QString::fromStdString(file))) return true;
+    error = "cannot write " + file;
+    return false;
+  }
+  bool SavePdf(const std::string& file, platform::SettingsStore& settings, std::string& error) override {
+    const bool frame =
+        graph::ReadSettingNumber(settings, platform::keys::kGrid, platform::keys::grid::kRam) == 1;
+    bool printed = false;
+    {
+      QPdfWriter writer(QString::fromStdString(file));
+      writer.setResolution(300);
+      writer.setCreator(QStringLiteral("Velmora"));
+      printed =
+          output_qt::PrintPicture(writer, surface_.Image(), output::PrintMargine::Read(settings), frame);
+    }
+    if (printed) return true;
+    error = "cannot write " + file;
+    return false;
+  }
 
  private:
   graph_qt::HeadlessGui gui_;  // before the surface: text needs it
@@ -31,6 +62,11 @@ class ImageCanvas final : public PlotCanvas {
 
 #else
 
+bool NoPicture(std::string& error) {
+  error = "pictures need a build with Qt (VELMORA_GUI=ON); this one draws nothing";
+  return false;
+}
+
 class StateCanvas final : public PlotCanvas {
  public:
   StateCanvas(int width, int height) : surface_(width, height) {}
@@ -38,6 +74,11 @@ class StateCanvas final : public PlotCanvas {
   bool SavePng(const std::string&, std::string& error) override {
     error = "--png needs a build with Qt (VELMORA_GUI=ON); this one draws nothing";
     return false;
+  }
+  bool SaveJpeg(const std::string&, int, std::string& error) override { return NoPicture(error); }
+  bool SaveBmp(const std::string&, std::string& error) override { return NoPicture(error); }
+  bool SavePdf(const std::string&, platform::SettingsStore&, std::string& error) override {
+    return NoPicture(error);
   }
 
  private:

@@ -23,7 +23,8 @@ constexpr std::string_view kUsage =
     "usage: velmora-cli plot [--settings FILE] [--width W] [--height H] [--history FILE]\n"
     "         [--type cartesian|parametric|polar] --y TEXT [--x TEXT] ...\n"
     "         [--zoom in|out|default|Z] [--right N] [--left N] [--up N] [--down N] [--center] ...\n"
-    "         [--replay] [--png FILE] [--trace] [--table] [--status]\n";
+    "         [--replay] [--png FILE] [--jpeg FILE [--quality Q]] [--bmp FILE] [--pdf FILE]\n"
+    "         [--trace] [--table] [--status]\n";
 
 // A batch run asks nothing: the move and zoom commands get their answers
 // from the command line through the window's apply routines.
@@ -58,6 +59,10 @@ struct Options {
   std::optional<std::string> settings;
   std::optional<std::string> history;
   std::optional<std::string> png;
+  std::optional<std::string> jpeg;
+  std::optional<std::string> bmp;
+  std::optional<std::string> pdf;
+  int quality = 100;  // the JPEG dialog's default
   int width = 600;
   int height = 400;
   bool trace = false;
@@ -100,6 +105,15 @@ bool Parse(const std::vector<std::string>& args, Options& o, std::ostream& err) 
     } else if (a == "--settings" || a == "--history" || a == "--png") {
       if (!value(v)) return false;
       (a == "--settings" ? o.settings : a == "--history" ? o.history : o.png) = v;
+    } else if (a == "--jpeg" || a == "--bmp" || a == "--pdf") {
+      if (!value(v)) return false;
+      (a == "--jpeg" ? o.jpeg : a == "--bmp" ? o.bmp : o.pdf) = v;
+    } else if (a == "--quality") {
+      if (!value(v)) return false;
+      if (!ParseInt(v, o.quality) || o.quality < 0 || o.quality > 100) {
+        err << "velmora-cli plot: --quality must be a whole number from 0 to 100\n";
+        return false;
+      }
     } else if (a == "--width" || a == "--height") {
       if (!value(v)) return false;
       int n = 0;
@@ -228,13 +242,15 @@ int RunPlot(const std::vector<std::string>& args, std::istream& /*in*/, std::ost
     out << "Zoom: " << expr::NumberToText(window.View().zlevel()) << '\n';
     out << window.View().MovedText() << '\n';
   }
-  if (o.png) {
-    std::string error;
-    if (!canvas->SavePng(*o.png, error)) {
-      err << "velmora-cli plot: " << error << '\n';
-      return 1;
-    }
-  }
+  std::string error;
+  const auto failed = [&] {
+    err << "velmora-cli plot: " << error << '\n';
+    return 1;
+  };
+  if (o.png && !canvas->SavePng(*o.png, error)) return failed();
+  if (o.jpeg && !canvas->SaveJpeg(*o.jpeg, o.quality, error)) return failed();
+  if (o.bmp && !canvas->SaveBmp(*o.bmp, error)) return failed();
+  if (o.pdf && !canvas->SavePdf(*o.pdf, settings, error)) return failed();
   return 0;
 }
 

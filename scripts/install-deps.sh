@@ -14,6 +14,7 @@ packages=(
   xvfb xauth x11-utils openbox xdotool
   fonts-liberation fonts-dejavu-core
   python3-numpy
+  libjpeg62-turbo-dev libjpeg-turbo-progs poppler-utils
 )
 
 missing=()

@@ -66,8 +66,11 @@ bool PrintPicture(QPagedPaintDevice& device, const QImage& picture, const output
   const double dpi = device.logicalDpiX();
   const QRectF body = device.pageLayout().paintRectPixels(static_cast<int>(dpi));
   if (body.width() <= 0 || body.height() <= 0) return false;
-  double width = picture.width() * dpi / kScreenDpi;
-  double height = picture.height() * dpi / kScreenDpi;
+  // A picture drawn for a screen above 100% holds more pixels than its
+  // size: its size is what it shows on screen.
+  const QSizeF shown = picture.deviceIndependentSize();
+  double width = shown.width() * dpi / kScreenDpi;
+  double height = shown.height() * dpi / kScreenDpi;
   const double shrink = std::min({1.0, body.width() / width, body.height() / height});
   width *= shrink;
   height *= shrink;

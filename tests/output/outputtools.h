@@ -65,4 +65,26 @@ inline int PdfPages(const std::filesystem::path& file) {
   return std::stoi(match[1]);
 }
 
+// The first picture pdfimages lists in a PDF file: its pixel size and its
+// resolution on the page. All -1 when there is none.
+struct PdfImage {
+  int width = -1;
+  int height = -1;
+  int xPpi = -1;
+  int yPpi = -1;
+};
+inline PdfImage FirstPdfImage(const std::filesystem::path& file) {
+  // A line of `pdfimages -list`: page, number, "image", width, height,
+  // colour, components, bits, encoding, interpolation, object, ID, x-ppi, y-ppi.
+  const std::string list = RunTool("pdfimages -list " + Quoted(file));
+  std::smatch match;
+  PdfImage image;
+  if (std::regex_search(
+          list, match,
+          std::regex(R"(image\s+(\d+)\s+(\d+)\s+\S+\s+\d+\s+\d+\s+\S+\s+\S+\s+\d+\s+\d+\s+(\d+)\s+(\d+))"))) {
+    image = {std::stoi(match[1]), std::stoi(match[2]), std::stoi(match[3]), std::stoi(match[4])};
+  }
+  return image;
+}
+
 }  // namespace velmora::testing
