@@ -5,6 +5,7 @@
 #include <QAction>
 #include <QApplication>
 #include <QDir>
+#include <QLineEdit>
 #include <QMdiArea>
 #include <QPixmap>
 
@@ -12,6 +13,10 @@
 #include "app/frmmain.h"
 #include "graph/qt/frmfunc.h"
 #include "graph/qt/frmgridopt.h"
+#include "graph/qt/qimagesurface.h"
+#include "output/qt/frmjpg.h"
+#include "output/qt/frmpagesetup.h"
+#include "platform/memorysettingsstore.h"
 
 namespace velmora::app {
 namespace {
@@ -33,11 +38,62 @@ void Choose(FrmMain& frame, const char* array, int index) {
   Settle();
 }
 
+// A file dialog that is never answered: the pictures show the dialogs
+// before anything is chosen.
+class NoFileDialog final : public platform::FileDialog {
+ public:
+  std::optional<std::string> Open(const std::string&, const std::string&, const std::string&) override {
+    return std::nullopt;
+  }
+  std::optional<std::string> Save(const std::string&, const std::string&, const std::string&,
+                                  const std::string&) override {
+    return std::nullopt;
+  }
+};
+
+// The JPEG dialog on the active window's picture at quality 40, and Page
+// Setup on fresh margins.
+int OutputScreenshots(FrmMain& frame, const QDir& dir) {
+  graph_qt::FrmFunc* active = frame.ActiveGraphWindow();
+  if (active == nullptr) return 2;
+  int failures = 0;
+  NoFileDialog files;
+  platform::SilentMessageBox messages;
+  {
+    output_qt::FrmJPG jpeg(active->Picture().Image(), files, messages, &frame);
+    jpeg.show();
+    Settle();
+    jpeg.txtQuality()->setText(QStringLiteral("40"));
+    Settle();
+    if (!Save(jpeg, dir, QStringLiteral("jpeg.png"))) ++failures;
+  }
+  platform::MemorySettingsStore settings;
+  {
+    output_qt::FrmPageSetup setup(settings, &frame);
+    setup.show();
+    Settle();
+    if (!Save(setup, dir, QStringLiteral("pagesetup.png"))) ++failures;
+  }
+  return failures;
+}
+
+// On a screen scaled to 200% (QT_SCALE_FACTOR=2): the frame with one graph,
+// its picture drawn at twice the pixels.
+int HighDpiScreenshot(FrmMain& frame, const QDir& dir) {
+  frame.resize(900, 640);
+  Settle();
+  for (graph_qt::FrmFunc* window : frame.GraphWindows()) window->SettleSize();
+  Choose(frame, "mnuPred2", 20);  // Damped Oscillations
+  Settle();
+  return Save(frame, dir, QStringLiteral("frame-scale2.png")) ? 0 : 1;
+}
+
 }  // namespace
 
 int TakeScreenshots(FrmMain& frame, const QString& folder) {
   QDir dir(folder);
   dir.mkpath(QStringLiteral("."));
+  if (frame.devicePixelRatio() >= 2) return HighDpiScreenshot(frame, dir);
   frame.resize(1440, 1000);
   Settle();
   // Three windows tiled, each drawn after the tiling has sized it.
@@ -70,6 +126,7 @@ int TakeScreenshots(FrmMain& frame, const QString& folder) {
   if (!Save(*options, dir, QStringLiteral("options.png"))) ++failures;
   options->close();
   Settle();
+  failures += OutputScreenshots(frame, dir);
   return failures;
 }
 
