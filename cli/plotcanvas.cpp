@@ -3,16 +3,12 @@
 #include "graph/basicsurface.h"
 
 #ifdef VELMORA_HAVE_QT_SURFACE
-#include <QPageSize>
-#include <QPdfWriter>
 #include <QString>
 
+#include "cli/picturesave.h"
 #include "graph/qt/headlessgui.h"
 #include "graph/qt/qimagesurface.h"
 #include "graph/settingnumber.h"
-#include "output/pagemargins.h"
-#include "output/qt/picturefiles.h"
-#include "output/qt/printout.h"
 #endif
 
 namespace velmora::cli {
@@ -29,30 +25,11 @@ class ImageCanvas final : public PlotCanvas {
     error = "cannot write " + file;
     return false;
   }
-  bool SaveJpeg(const std::string& file, int quality, std::string& error) override {
-    if (output_qt::SaveJpeg(surface_.Image(), QString::fromStdString(file), quality, &error)) return true;
-    error = "cannot write " + file + ": " + error;
-    return false;
-  }
-  bool SaveBmp(const std::string& file, std::string& error) override {
-    if (output_qt::SaveBmp(surface_.Image(), QString::fromStdString(file))) return true;
-    error = "cannot write " + file;
-    return false;
-  }
-  bool SavePdf(const std::string& file, platform::SettingsStore& settings, std::string& error) override {
+  bool SavePictures(const PictureOptions& options, platform::SettingsStore& settings,
+                    std::string& error) override {
     const bool frame =
         graph::ReadSettingNumber(settings, platform::keys::kGrid, platform::keys::grid::kRam) == 1;
-    bool printed = false;
-    {
-      QPdfWriter writer(QString::fromStdString(file));
-      writer.setResolution(300);
-      writer.setCreator(QStringLiteral("Velmora"));
-      printed =
-          output_qt::PrintPicture(writer, surface_.Image(), output::PrintMargine::Read(settings), frame);
-    }
-    if (printed) return true;
-    error = "cannot write " + file;
-    return false;
+    return cli::SavePictures(surface_.Image(), options, settings, frame, error);
   }
 
  private:
@@ -62,11 +39,6 @@ class ImageCanvas final : public PlotCanvas {
 
 #else
 
-bool NoPicture(std::string& error) {
-  error = "pictures need a build with Qt (VELMORA_GUI=ON); this one draws nothing";
-  return false;
-}
-
 class StateCanvas final : public PlotCanvas {
  public:
   StateCanvas(int width, int height) : surface_(width, height) {}
@@ -75,10 +47,9 @@ class StateCanvas final : public PlotCanvas {
     error = "--png needs a build with Qt (VELMORA_GUI=ON); this one draws nothing";
     return false;
   }
-  bool SaveJpeg(const std::string&, int, std::string& error) override { return NoPicture(error); }
-  bool SaveBmp(const std::string&, std::string& error) override { return NoPicture(error); }
-  bool SavePdf(const std::string&, platform::SettingsStore&, std::string& error) override {
-    return NoPicture(error);
+  bool SavePictures(const PictureOptions&, platform::SettingsStore&, std::string& error) override {
+    error = "pictures need a build with Qt (VELMORA_GUI=ON); this one draws nothing";
+    return false;
   }
 
  private:

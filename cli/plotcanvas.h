@@ -3,6 +3,7 @@
 #include <memory>
 #include <string>
 
+#include "cli/pictureoptions.h"
 #include "graph/surface.h"
 #include "platform/settingsstore.h"
 
@@ -17,13 +18,11 @@ class PlotCanvas {
   virtual graph::Surface& Surface() = 0;
   // Saves the picture as PNG; false with a reason when it cannot.
   virtual bool SavePng(const std::string& file, std::string& error) = 0;
-  // The picture as a JPEG file at a quality of 0 to 100, and as a bitmap.
-  virtual bool SaveJpeg(const std::string& file, int quality, std::string& error) = 0;
-  virtual bool SaveBmp(const std::string& file, std::string& error) = 0;
-  // The picture printed to a PDF file as File > Print > Graph prints it:
-  // one page inside the margins of the section "Print", framed when the
-  // setting Ram is 1.
-  virtual bool SavePdf(const std::string& file, platform::SettingsStore& settings, std::string& error) = 0;
+  // The picture to the outputs the options name (JPEG, bitmap, and PDF
+  // printed as File > Print > Graph prints it: the margins of "Print", the
+  // frame when the setting Ram is 1).
+  virtual bool SavePictures(const PictureOptions& options, platform::SettingsStore& settings,
+                            std::string& error) = 0;
 };
 
 std::unique_ptr<PlotCanvas> MakePlotCanvas(int width, int height);

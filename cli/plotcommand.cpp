@@ -59,10 +59,7 @@ struct Options {
   std::optional<std::string> settings;
   std::optional<std::string> history;
   std::optional<std::string> png;
-  std::optional<std::string> jpeg;
-  std::optional<std::string> bmp;
-  std::optional<std::string> pdf;
-  int quality = 100;  // the JPEG dialog's default
+  PictureOptions pictures;
   int width = 600;
   int height = 400;
   bool trace = false;
@@ -82,6 +79,12 @@ bool Parse(const std::vector<std::string>& args, Options& o, std::ostream& err) 
   static const std::vector<std::string_view> kSteps = {"--type",  "--y",    "--x",  "--zoom",
                                                        "--right", "--left", "--up", "--down"};
   for (std::size_t i = 0; i < args.size(); ++i) {
+    std::string pictureError;
+    switch (ReadPictureOption(args, i, o.pictures, pictureError)) {
+      case OptionRead::Read: continue;
+      case OptionRead::Error: err << "velmora-cli plot: " << pictureError << '\n'; return false;
+      case OptionRead::NotMine: break;
+    }
     const std::string& a = args[i];
     const auto value = [&](std::string& into) {
       if (i + 1 >= args.size()) {
@@ -105,15 +108,6 @@ bool Parse(const std::vector<std::string>& args, Options& o, std::ostream& err) 
     } else if (a == "--settings" || a == "--history" || a == "--png") {
       if (!value(v)) return false;
       (a == "--settings" ? o.settings : a == "--history" ? o.history : o.png) = v;
-    } else if (a == "--jpeg" || a == "--bmp" || a == "--pdf") {
-      if (!value(v)) return false;
-      (a == "--jpeg" ? o.jpeg : a == "--bmp" ? o.bmp : o.pdf) = v;
-    } else if (a == "--quality") {
-      if (!value(v)) return false;
-      if (!ParseInt(v, o.quality) || o.quality < 0 || o.quality > 100) {
-        err << "velmora-cli plot: --quality must be a whole number from 0 to 100\n";
-        return false;
-      }
     } else if (a == "--width" || a == "--height") {
       if (!value(v)) return false;
       int n = 0;
@@ -248,9 +242,7 @@ int RunPlot(const std::vector<std::string>& args, std::istream& /*in*/, std::ost
     return 1;
   };
   if (o.png && !canvas->SavePng(*o.png, error)) return failed();
-  if (o.jpeg && !canvas->SaveJpeg(*o.jpeg, o.quality, error)) return failed();
-  if (o.bmp && !canvas->SaveBmp(*o.bmp, error)) return failed();
-  if (o.pdf && !canvas->SavePdf(*o.pdf, settings, error)) return failed();
+  if (o.pictures.Any() && !canvas->SavePictures(o.pictures, settings, error)) return failed();
   return 0;
 }
 
