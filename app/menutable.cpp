@@ -123,7 +123,7 @@ constexpr std::array kTools{
     MenuItem{"mnuTools", 14, "&Matrix Calculator...", "", C::ToolMatrix, E::NotBuilt},
     MenuItem{"mnuTools", 15, "&Units Converter...", "", C::ToolConverter, E::NotBuilt},
     Sep("mnuTools", 16),
-    MenuItem{"mnuTools", 17, "Mat&hPad", "", C::ToolMathPad, E::NotBuilt},
+    MenuItem{"mnuTools", 17, "Mat&hPad", "", C::ToolMathPad},
 };
 
 constexpr std::array kWindow{

@@ -94,7 +94,7 @@ constexpr std::array kToolbar4{
     ToolButton{"Integral", "Integrate", "Integrate", C::ToolIntegrate, E::NotBuilt},
     ToolButton{"Tabela", "Tables", "Value tables", C::ToolValueTables, E::NotBuilt},
     ToolButton{"Label", "Label", "Insert label", C::ToolLabel, E::NotBuilt},
-    ToolButton{"MathPad", "MathPad", "MathPad", C::ToolMathPad, E::NotBuilt},
+    ToolButton{"MathPad", "MathPad", "MathPad", C::ToolMathPad},
     ToolButton{"Options", "Options", "Plotting options", C::Options},
     ToolButton{"Evaluator", "Evaluator", "Evaluator", C::ToolEvaluator, E::NotBuilt, kEvaluatorMenu},
     ToolButton{"Calc", "Calculators", "Calculators", C::None, E::NotBuilt, kCalcMenu},

@@ -2,6 +2,7 @@
 
 #include "app/frmmain.h"
 #include "app/toolwindowhost.h"
+#include "mathpad/qt/frmmapuskice.h"
 
 namespace velmora::app {
 
@@ -9,8 +10,10 @@ void RegisterToolWindows(ToolWindowHost& host, const FrameServices& services) {
   // One line a tool window, e.g.
   //   host.Register(platform::ToolWindow::MathPad,
   //                 [&services, &host](QWidget* owner) { return new ...(owner, ...); });
-  (void)host;
-  (void)services;
+  host.Register(platform::ToolWindow::MathPad, [&services, &host](QWidget* owner) {
+    return new mathpad_qt::FrmMaPuskice(owner, {services.settings, services.messages, services.input,
+                                                services.files, services.shell, services.colours, &host});
+  });
 }
 
 }  // namespace velmora::app

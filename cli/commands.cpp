@@ -6,6 +6,7 @@
 #include "cli/enginecommand.h"
 #include "cli/evaluatorcommand.h"
 #include "cli/geocommand.h"
+#include "cli/mathpadcommand.h"
 #include "cli/matrixcommand.h"
 #include "cli/normalisecommand.h"
 #include "cli/numbercommand.h"
@@ -40,6 +41,10 @@ const std::vector<Command>& Commands() {
       {"matrix",
        "matrix OP A.mcf [B.mcf] [--scalar T] [--precision N] [--zeros] [--html F]: one matrix calculation",
        RunMatrix},
+      {"mathpad",
+       "mathpad convert IN OUT | mathpad text IN | mathpad print IN OUT.pdf: a MathPad document (.rtf or "
+       "text) converted, printed as text, or printed to PDF with the stored margins",
+       RunMathPad},
       {"plot",
        "plot [--type T] --y TEXT [--x TEXT] [--zoom Z] [--right N] ... [--png F] [--trace] [--table] "
        "[--status] [--jpeg F [--quality Q]] [--bmp F] [--pdf F]: "

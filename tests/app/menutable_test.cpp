@@ -178,7 +178,7 @@ TEST(MenuTable, ToolsOfLaterVersionsAreDisabledAndTheGraphCommandsNeedAWindow) {
       {"mnuclearall", -1, EnableRule::NeedsWindow, Command::ClearGrid},
       {"mnuTools", 11, EnableRule::NotBuilt, Command::ToolScientific},
       {"mnuTools", 14, EnableRule::NotBuilt, Command::ToolMatrix},
-      {"mnuTools", 17, EnableRule::NotBuilt, Command::ToolMathPad},
+      {"mnuTools", 17, EnableRule::Always, Command::ToolMathPad},
       {"mnuOptions", -1, EnableRule::NeedsWindow, Command::Options},
       {"mnuHelpContents", -1, EnableRule::Always, Command::HelpContents},
   };
