@@ -126,5 +126,37 @@ TEST_F(PlotPictureCli, PrintTextOfNothingIsNothingToPrint) {
   EXPECT_EQ(RunCli({"print-text", in.string()}).status, 2) << "two files are needed";
 }
 
+TEST_F(PlotPictureCli, AMathPadDocumentPrintsWithItsFormattingAndTheMargins) {
+  std::ofstream(Settings()) << "[Print]\nlevo=2\ngore=1\n";
+  std::string rtf = "{\\rtf1\\ansi{\\fonttbl{\\f0 Arial;}}\\f0\\fs24 {\\b Results} of the notebook\\par ";
+  for (int i = 1; i <= 150; ++i)
+    rtf += "Row " + std::to_string(i) + " x{\\super 2} = " + std::to_string(i * i) + "\\par ";
+  rtf += "}";
+  const fs::path in = scratch_.File("notes.rtf", rtf);
+  const fs::path pdf = dir_ / "notes.pdf";
+  const CliRun run =
+      RunCli({"mathpad", "print", in.string(), pdf.string(), "--settings", Settings().string()});
+  ASSERT_EQ(run.status, 0) << run.out << run.err;
+  const int pages = PdfPages(pdf);
+  EXPECT_GE(pages, 3);
+  EXPECT_EQ(run.out, "pages: " + std::to_string(pages) + "\n");
+  const std::string words = RunTool("pdftotext " + Quoted(pdf) + " -");
+  EXPECT_NE(words.find("Results of the notebook"), std::string::npos) << words.substr(0, 200);
+  EXPECT_NE(words.find("Row 150"), std::string::npos);
+  const std::string boxes = RunTool("pdftotext -f 1 -l 1 -bbox " + Quoted(pdf) + " -");
+  const auto x = boxes.find("xMin=\"");
+  ASSERT_NE(x, std::string::npos) << boxes;
+  EXPECT_NEAR(std::stod(boxes.substr(x + 6)), 2 * 72, 3) << "the left margin";
+}
+
+TEST_F(PlotPictureCli, AnEmptyMathPadDocumentIsNothingToPrint) {
+  const fs::path in = scratch_.File("empty.rtf", "{\\rtf1\\ansi }");
+  const CliRun run =
+      RunCli({"mathpad", "print", in.string(), (dir_ / "e.pdf").string(), "--settings", Settings().string()});
+  EXPECT_EQ(run.status, 0);
+  EXPECT_EQ(run.out, "message: Nothing to print.\n");
+  EXPECT_FALSE(fs::exists(dir_ / "e.pdf"));
+}
+
 }  // namespace
 }  // namespace velmora::testing
