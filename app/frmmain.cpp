@@ -21,6 +21,7 @@
 #include "app/framestatusbar.h"
 #include "app/frametoolbars.h"
 #include "app/graphchildadapter.h"
+#include "app/outputcommands.h"
 #include "app/statuspanels.h"
 #include "app/tilegrid.h"
 #include "app/toolbarlayout.h"
@@ -30,6 +31,7 @@
 #include "graph/examplecatalogue.h"
 #include "graph/qt/frmfunc.h"
 #include "mathpad/historyhandover.h"
+#include "output/clsresize.h"
 
 #ifndef VELMORA_VERSION
 #define VELMORA_VERSION "0.1.0"
@@ -129,7 +131,9 @@ void FrmMain::Run(Command command) {
     case Command::WindowCascade: Cascade(); break;
     case Command::WindowTile: Tile(); break;
     case Command::HelpContents:
-      OpenHelp(QDir(services_.programFolder).filePath(QString::fromUtf8(kHelpFile.data())));
+      OpenHelp(services_.helpPath.isEmpty()
+                   ? QDir(services_.programFolder).filePath(QString::fromUtf8(kHelpFile.data()))
+                   : services_.helpPath);
       break;
     case Command::HelpWeb: OpenHelp(services_.readMePath); break;
     case Command::About: About(); break;
@@ -152,6 +156,11 @@ void FrmMain::Run(Command command) {
       break;
     default: {
       graph_qt::FrmFunc* active = ActiveGraphWindow();
+      if (RunOutputCommand(
+              command, this, active,
+              {services_.settings, services_.messages, services_.files, tools_.get(), history_.Path()})) {
+        break;
+      }
       if (active == nullptr) {
         commands_.Run(command, nullptr);
         break;
@@ -168,9 +177,15 @@ void FrmMain::NewGraphWindow() { windows_.NewGraphWindow(); }
 
 void FrmMain::ShowAsLastClosed() {
   if (!RestoreFrameGeometry(*services_.settings, *this)) {
-    // A first start: the default size, within the screen.
-    const QRect screen = this->screen()->availableGeometry();
-    resize(std::min(kStartWidth, screen.width()), std::min(kStartHeight, screen.height()));
+    // A first start: the default size, scaled by the screen's width away
+    // from 96 dots per inch, within the screen.
+    const QScreen* screen = this->screen();
+    const QRect available = screen->availableGeometry();
+    const int screenWidth = static_cast<int>(screen->geometry().width() * screen->devicePixelRatio());
+    const auto size = output::clsResize::FirstStartSize({kStartWidth, kStartHeight}, screenWidth,
+                                                        static_cast<int>(screen->logicalDotsPerInchX()),
+                                                        {available.width(), available.height()});
+    resize(size.width, size.height);
   }
   show();
 }

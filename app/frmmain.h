@@ -52,6 +52,7 @@ struct FrameServices {
   std::string historyPath;                   // GraphLog.txt; empty: the user's default
   QString programFolder;                     // where the help file is looked for
   QString readMePath;                        // the page the Help menu's "Read Me" opens
+  QString helpPath;                          // the manual's first page (Help > Contents)
 };
 
 // `frmMain`, the main frame: a multiple-document area for up to twenty graph

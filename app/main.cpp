@@ -10,7 +10,9 @@
 //                              Plotting Options dialog are saved as PNG files
 //                              into DIR, then the program ends;
 //   VELMORA_STATE_PROBE=1      every change of the frame's state writes one
-//                              "state: ..." line (StateLine) to standard error.
+//                              "state: ..." line (StateLine) to standard error;
+//   VELMORA_PRINT_TO=FILE.pdf  the print commands write this PDF file instead
+//                              of showing the print dialog.
 #include <cstdio>
 #include <memory>
 
@@ -25,6 +27,7 @@
 #include "app/stateprobe.h"
 #include "app/toolicons.h"
 #include "app/toolregistry.h"
+#include "output/qt/printdialogs.h"
 #include "platform/printingmessagebox.h"
 #include "platform/qt/qtcolordialog.h"
 #include "platform/qt/qtfiledialog.h"
@@ -46,9 +49,27 @@ QString ReadMePath() {
   return QDir::cleanPath(bin.filePath(QStringLiteral("../share/doc/velmora/README.md")));
 }
 
+// The HTML manual the Help menu opens: the installed copy, or the one of
+// the source tree the program was built in. The path is kept even when the
+// file is missing, so that the message names what was looked for.
+QString HelpPath() {
+  const QDir bin(QCoreApplication::applicationDirPath());
+  for (const QString& candidate :
+       {QStringLiteral("../share/doc/velmora/help/index.html"), QStringLiteral("../docs/help/index.html"),
+        QStringLiteral("../../docs/help/index.html")}) {
+    if (QFileInfo::exists(bin.filePath(candidate))) return QDir::cleanPath(bin.filePath(candidate));
+  }
+  return QDir::cleanPath(bin.filePath(QStringLiteral("../share/doc/velmora/help/index.html")));
+}
+
 }  // namespace
 
 int main(int argc, char** argv) {
+  // Windows are laid out in device-independent pixels and Qt scales them
+  // by the screen's exact factor (150% stays 1.5, not 2): fonts, controls
+  // and the graph surface follow the screen, and a picture is drawn at the
+  // screen's pixel density.
+  QGuiApplication::setHighDpiScaleFactorRoundingPolicy(Qt::HighDpiScaleFactorRoundingPolicy::PassThrough);
   QApplication app(argc, argv);
   QApplication::setOrganizationName(QStringLiteral("Velmora"));
   QApplication::setApplicationName(QStringLiteral("Velmora"));
@@ -95,6 +116,16 @@ int main(int argc, char** argv) {
   services.shell = &shell;
   services.programFolder = QCoreApplication::applicationDirPath();
   services.readMePath = ReadMePath();
+  services.helpPath = HelpPath();
+  // Print commands write this PDF file in place of asking for a printer.
+  const QString printTo = qEnvironmentVariable("VELMORA_PRINT_TO");
+  if (!printTo.isEmpty()) {
+    velmora::output_qt::SetPrinterChooser([printTo](QPrinter& printer, QWidget*) {
+      printer.setOutputFormat(QPrinter::PdfFormat);
+      printer.setOutputFileName(printTo);
+      return true;
+    });
+  }
 
   velmora::app::FrmMain frame(services);
   if (qEnvironmentVariable("VELMORA_STATE_PROBE") == QLatin1String("1")) {

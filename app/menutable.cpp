@@ -16,12 +16,12 @@ constexpr MenuItem Sep(std::string_view name = "", int index = -1) { return {nam
 
 constexpr std::array kSaveAs{
     MenuItem{"mnubmp", -1, "&BMP, WMF", "", C::SaveBmp, E::NeedsWindow},
-    MenuItem{"mnujpg", -1, "&JPEG...", "", C::SaveJpeg, E::NotBuilt},
+    MenuItem{"mnujpg", -1, "&JPEG...", "", C::SaveJpeg, E::NeedsWindow},
 };
 
 constexpr std::array kPrint{
-    MenuItem{"mnuFile2", -1, "&Graph...", "", C::PrintGraph, E::NotBuilt},
-    MenuItem{"mnuFile3", -1, "&History...", "", C::PrintHistory, E::NotBuilt},
+    MenuItem{"mnuFile2", -1, "&Graph...", "", C::PrintGraph, E::NeedsWindow},
+    MenuItem{"mnuFile3", -1, "&History...", "", C::PrintHistory, E::NeedsWindow},
 };
 
 constexpr std::array kFile{
@@ -39,7 +39,7 @@ constexpr std::array kFile{
     MenuItem{"mnuFile", 10, "&Save History...", "", C::SaveHistory, E::NeedsMathPad},
     Sep("mnuFile", 11),
     MenuItem{"mnuFile", 12, "&Print", "", C::None, E::Always, K::None, 0, kPrint},
-    MenuItem{"mnuFile", 13, "Print Set&up...", "", C::PrintSetup, E::NotBuilt},
+    MenuItem{"mnuFile", 13, "Print Set&up...", "", C::PrintSetup, E::Always},
     // The recent functions follow this separator, which shows only with them.
     Sep("mnuSeparator2"),
     Sep("mnuFile", 14),
@@ -132,7 +132,7 @@ constexpr std::array kWindow{
 };
 
 constexpr std::array kHelp{
-    MenuItem{"mnuHelpContents", -1, "&Contents...", "F1", C::HelpContents, E::HelpFile},
+    MenuItem{"mnuHelpContents", -1, "&Contents...", "F1", C::HelpContents, E::Always},
     MenuItem{"mnuhelp", -1, "&Read Me...", "", C::HelpWeb, E::Always},
     Sep(),
     MenuItem{"mnuAbout", -1, "&About Velmora...", "", C::About, E::Always},

@@ -40,6 +40,9 @@
 #include "mathpad/qt/frmmapuskice.h"
 #include "matrix/qt/frmmatrice.h"
 #include "matrix/qt/gridview.h"
+#include "output/qt/frmjpg.h"
+#include "output/qt/frmpagesetup.h"
+#include "platform/memorysettingsstore.h"
 #include "tools/qt/frmanalizanew.h"
 #include "tools/qt/frmintav.h"
 #include "tools/qt/frmnjutn.h"
@@ -396,11 +399,65 @@ int GeometryScreenshots(FrmMain& frame, const QDir& dir) {
   return failures;
 }
 
+  return failures;
+}
+
+// A file dialog that is never answered: the pictures show the dialogs
+// before anything is chosen.
+class NoFileDialog final : public platform::FileDialog {
+ public:
+  std::optional<std::string> Open(const std::string&, const std::string&, const std::string&) override {
+    return std::nullopt;
+  }
+  std::optional<std::string> Save(const std::string&, const std::string&, const std::string&,
+                                  const std::string&) override {
+    return std::nullopt;
+  }
+};
+
+// The JPEG dialog on the active window's picture at quality 40, and Page
+// Setup on fresh margins.
+int OutputScreenshots(FrmMain& frame, const QDir& dir) {
+  graph_qt::FrmFunc* active = frame.ActiveGraphWindow();
+  if (active == nullptr) return 2;
+  int failures = 0;
+  NoFileDialog files;
+  platform::SilentMessageBox messages;
+  {
+    output_qt::FrmJPG jpeg(active->Picture().Image(), files, messages, &frame);
+    jpeg.show();
+    Settle();
+    jpeg.txtQuality()->setText(QStringLiteral("40"));
+    Settle();
+    if (!Save(jpeg, dir, QStringLiteral("jpeg.png"))) ++failures;
+  }
+  platform::MemorySettingsStore settings;
+  {
+    output_qt::FrmPageSetup setup(settings, &frame);
+    setup.show();
+    Settle();
+    if (!Save(setup, dir, QStringLiteral("pagesetup.png"))) ++failures;
+  }
+  return failures;
+}
+
+// On a screen scaled to 200% (QT_SCALE_FACTOR=2): the frame with one graph,
+// its picture drawn at twice the pixels.
+int HighDpiScreenshot(FrmMain& frame, const QDir& dir) {
+  frame.resize(900, 640);
+  Settle();
+  for (graph_qt::FrmFunc* window : frame.GraphWindows()) window->SettleSize();
+  Choose(frame, "mnuPred2", 20);  // Damped Oscillations
+  Settle();
+  return Save(frame, dir, QStringLiteral("frame-scale2.png")) ? 0 : 1;
+}
+
 }  // namespace
 
 int TakeScreenshots(FrmMain& frame, const QString& folder) {
   QDir dir(folder);
   dir.mkpath(QStringLiteral("."));
+  if (frame.devicePixelRatio() >= 2) return HighDpiScreenshot(frame, dir);
   frame.resize(1440, 1000);
   Settle();
   // Three windows tiled, each drawn after the tiling has sized it.
@@ -439,6 +496,7 @@ int TakeScreenshots(FrmMain& frame, const QString& folder) {
   failures += ComplexScreenshots(frame, dir);
   failures += MatrixScreenshots(frame, dir);
   failures += GeometryScreenshots(frame, dir);
+  failures += OutputScreenshots(frame, dir);
   return failures;
   return failures;
 }

@@ -38,7 +38,7 @@ constexpr std::array kMoveMenu{
 
 constexpr std::array kSaveMenu{
     ToolMenuItem{"bmp", "BMP, WMF", C::SaveBmp},
-    ToolMenuItem{"jpg", "JPEG...", C::SaveJpeg, E::NotBuilt},
+    ToolMenuItem{"jpg", "JPEG...", C::SaveJpeg, E::NeedsWindow},
 };
 
 constexpr std::array kNewtonMenu{
@@ -77,7 +77,7 @@ constexpr std::array kToolbar2{
     ToolButton{"New", "New", "New graph window", C::New, E::Always},
     ToolButton{"Copy", "Copy", "Copy graph", C::CopyGraph},
     ToolButton{"Save", "Save", "Save picture", C::SaveBmp, E::NeedsWindow, kSaveMenu},
-    ToolButton{"Print", "Print", "Print graph", C::PrintGraph, E::NotBuilt},
+    ToolButton{"Print", "Print", "Print graph", C::PrintGraph, E::NeedsWindow},
 };
 
 constexpr std::array kToolbar3{

@@ -12,6 +12,7 @@
 #include "cli/normalisecommand.h"
 #include "cli/numbercommand.h"
 #include "cli/plotcommand.h"
+#include "cli/printtextcommand.h"
 
 namespace velmora::cli {
 
@@ -42,12 +43,12 @@ const std::vector<Command>& Commands() {
        "matrix OP A.mcf [B.mcf] [--scalar T] [--precision N] [--zeros] [--html F]: one matrix calculation",
        RunMatrix},
       {"mathpad",
-       "mathpad convert IN OUT | mathpad text IN: a MathPad document (.rtf or text) converted or printed as "
-       "text",
+       "mathpad convert IN OUT | mathpad text IN | mathpad print IN OUT.pdf: a MathPad document (.rtf or "
+       "text) converted, printed as text, or printed to PDF with the stored margins",
        RunMathPad},
       {"plot",
        "plot [--type T] --y TEXT [--x TEXT] [--zoom Z] [--right N] ... [--png F] [--trace] [--table] "
-       "[--status]: "
+       "[--status] [--jpeg F [--quality Q]] [--bmp F] [--pdf F]: "
        "a headless graph window",
        RunPlot},
       {"table",
@@ -67,6 +68,9 @@ const std::vector<Command>& Commands() {
       {"critical", "critical FUNCTION [XMIN XMAX] [--accurate]: minima and maxima in a range", RunCritical},
       {"evaluate", "evaluate: the Evaluator window, one expression a line (a tab and a value for X optional)",
        RunEvaluate},
+      {"print-text",
+       "print-text IN OUT.pdf [--settings F] [--html]: a text printed to PDF with the stored margins",
+       RunPrintText},
   };
   return table;
 }

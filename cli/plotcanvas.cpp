@@ -5,8 +5,10 @@
 #ifdef VELMORA_HAVE_QT_SURFACE
 #include <QString>
 
+#include "cli/picturesave.h"
 #include "graph/qt/headlessgui.h"
 #include "graph/qt/qimagesurface.h"
+#include "graph/settingnumber.h"
 #endif
 
 namespace velmora::cli {
@@ -23,6 +25,12 @@ class ImageCanvas final : public PlotCanvas {
     error = "cannot write " + file;
     return false;
   }
+  bool SavePictures(const PictureOptions& options, platform::SettingsStore& settings,
+                    std::string& error) override {
+    const bool frame =
+        graph::ReadSettingNumber(settings, platform::keys::kGrid, platform::keys::grid::kRam) == 1;
+    return cli::SavePictures(surface_.Image(), options, settings, frame, error);
+  }
 
  private:
   graph_qt::HeadlessGui gui_;  // before the surface: text needs it
@@ -37,6 +45,10 @@ class StateCanvas final : public PlotCanvas {
   graph::Surface& Surface() override { return surface_; }
   bool SavePng(const std::string&, std::string& error) override {
     error = "--png needs a build with Qt (VELMORA_GUI=ON); this one draws nothing";
+    return false;
+  }
+  bool SavePictures(const PictureOptions&, platform::SettingsStore&, std::string& error) override {
+    error = "pictures need a build with Qt (VELMORA_GUI=ON); this one draws nothing";
     return false;
   }
 

@@ -25,9 +25,14 @@ constexpr std::string_view kUsage =
     "usage: velmora-cli plot [--settings FILE] [--width W] [--height H] [--history FILE]\n"
     "         [--type cartesian|parametric|polar] --y TEXT [--x TEXT] ...\n"
     "         [--zoom in|out|default|Z] [--right N] [--left N] [--up N] [--down N] [--center] ...\n"
-    "         [--tangent X0] [--normal X0] [--integral XMIN XMAX [--average V] [--hide-curve]]\n"
-    "         [--derivative] [--label TEXT X Y [--angle DEG] [--transparent]] ...\n"
-    "         [--replay] [--png FILE] [--trace] [--table] [--status]\n";
+    "         [--tangent X0] [--normal X0] [--integral XMIN XMAX [--average V] [--hide-curve]]
+"
+    "         [--derivative] [--label TEXT X Y [--angle DEG] [--transparent]] ...
+"
+    "         [--replay] [--png FILE] [--jpeg FILE [--quality Q]] [--bmp FILE] [--pdf FILE]
+"
+    "         [--trace] [--table] [--status]
+";
 
 // A batch run asks nothing: the move and zoom commands get their answers
 // from the command line through the window's apply routines.
@@ -73,6 +78,7 @@ struct Options {
   std::optional<std::string> settings;
   std::optional<std::string> history;
   std::optional<std::string> png;
+  PictureOptions pictures;
   int width = 600;
   int height = 400;
   bool trace = false;
@@ -92,6 +98,12 @@ bool Parse(const std::vector<std::string>& args, Options& o, std::ostream& err) 
   static const std::vector<std::string_view> kSteps = {"--type", "--y",  "--x",    "--zoom",    "--right",
                                                        "--left", "--up", "--down", "--tangent", "--normal"};
   for (std::size_t i = 0; i < args.size(); ++i) {
+    std::string pictureError;
+    switch (ReadPictureOption(args, i, o.pictures, pictureError)) {
+      case OptionRead::Read: continue;
+      case OptionRead::Error: err << "velmora-cli plot: " << pictureError << '\n'; return false;
+      case OptionRead::NotMine: break;
+    }
     const std::string& a = args[i];
     const auto value = [&](std::string& into) {
       if (i + 1 >= args.size()) {
@@ -346,13 +358,13 @@ int RunPlot(const std::vector<std::string>& args, std::istream& /*in*/, std::ost
     out << "Zoom: " << expr::NumberToText(window.View().zlevel()) << '\n';
     out << window.View().MovedText() << '\n';
   }
-  if (o.png) {
-    std::string error;
-    if (!canvas->SavePng(*o.png, error)) {
-      err << "velmora-cli plot: " << error << '\n';
-      return 1;
-    }
-  }
+  std::string error;
+  const auto failed = [&] {
+    err << "velmora-cli plot: " << error << '\n';
+    return 1;
+  };
+  if (o.png && !canvas->SavePng(*o.png, error)) return failed();
+  if (o.pictures.Any() && !canvas->SavePictures(o.pictures, settings, error)) return failed();
   return 0;
 }
 

@@ -17,6 +17,7 @@ packages=(
   python3-numpy
   libreoffice-writer-nogui xdg-utils
   tidy
+  libjpeg62-turbo-dev libjpeg-turbo-progs poppler-utils
 )
 
 missing=()

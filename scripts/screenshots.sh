@@ -1,9 +1,10 @@
 #!/usr/bin/env bash
 # Runs Velmora in a virtual X server and saves PNG screenshots into
 # BUILD_DIR/screenshots: the frame with three example graph windows
-# (frame.png), the Plotting Options dialog (options.png), MathPad with a
-# formatted page and a graph (mathpad.png) and its Insert Symbol window
-# (mathpad-symbol.png). The program
+# (frame.png), the Plotting Options dialog (options.png), the JPEG dialog
+# (jpeg.png), Page Setup (pagesetup.png), the frame with one graph on a
+# screen scaled to 200% (frame-scale2.png), and the graph tools and every
+# tool window after a calculation (see app/screenshots.h). The program
 # runs on fresh settings in a temporary folder, so the pictures show the
 # defaults and the user's own settings are never touched.
 set -euo pipefail
@@ -27,4 +28,10 @@ env -u QT_QPA_PLATFORM \
   XDG_CONFIG_HOME="$tmp/config" XDG_DATA_HOME="$tmp/data" XDG_RUNTIME_DIR="$tmp/runtime" \
   VELMORA_SCREENSHOTS="$out" \
   xvfb-run -a -s "-screen 0 1600x1200x24" "$program"
+# The frame again on a screen scaled to 200%: frame-scale2.png.
+rm -rf "$tmp/config" "$tmp/data" && mkdir -p "$tmp/config" "$tmp/data"
+env -u QT_QPA_PLATFORM \
+  XDG_CONFIG_HOME="$tmp/config" XDG_DATA_HOME="$tmp/data" XDG_RUNTIME_DIR="$tmp/runtime" \
+  VELMORA_SCREENSHOTS="$out" QT_SCALE_FACTOR=2 \
+  xvfb-run -a -s "-screen 0 2400x1800x24" "$program"
 ls -l "$out"/*.png

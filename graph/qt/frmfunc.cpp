@@ -19,6 +19,7 @@
 #include <QPainter>
 #include <QPlainTextEdit>
 #include <QRadioButton>
+#include <QScreen>
 #include <QScrollBar>
 #include <QSignalBlocker>
 #include <QTableWidget>
@@ -96,6 +97,11 @@ FrmFunc::FrmFunc(FrmFuncServices services, QWidget* parent)
       services_(services),
       surface_(std::make_unique<QImageSurface>(kStartWidth, kStartHeight)) {
   if (!services_.clockMs) services_.clockMs = SteadyClockMs;
+  // The picture is drawn at the screen's pixel density (crisp at 200%),
+  // before anything is drawn on it.
+  if (const QScreen* screen = QGuiApplication::primaryScreen()) {
+    surface_->SetDevicePixelRatio(screen->devicePixelRatio());
+  }
   setObjectName(QStringLiteral("frmFunc"));
   BuildWidgets();
   graph::GraphServices logicServices =
@@ -698,7 +704,8 @@ void FrmFunc::Kopirajgraf() {
   if (commands_->FrameOnCopies()) {
     QPainter frame(&copy);
     frame.setPen(QPen(Qt::black, 1));
-    frame.drawRect(copy.rect().adjusted(0, 0, -1, -1));
+    const QSizeF size = copy.deviceIndependentSize();
+    frame.drawRect(QRectF(0, 0, size.width() - 1, size.height() - 1));
   }
   QGuiApplication::clipboard()->setImage(copy);
 }

@@ -31,9 +31,14 @@ QColor PDrawView::TangentColour() { return QColor(0xE0, 0x20, 0x20); }
 void PDrawView::paintEvent(QPaintEvent* event) {
   QPainter p(this);
   const QImage& picture = surface_.Image();
-  p.drawImage(event->rect().topLeft(), picture, event->rect());
+  // The picture may hold more pixels than the widget has (a screen above
+  // 100%): the part shown is taken in the picture's own pixels.
+  const double ratio = picture.devicePixelRatio();
+  const QRectF shown(event->rect());
+  p.drawImage(shown, picture,
+              QRectF(shown.x() * ratio, shown.y() * ratio, shown.width() * ratio, shown.height() * ratio));
   // Outside the picture (a size not yet followed): the back colour.
-  const QRect covered(QPoint(0, 0), picture.size());
+  const QRect covered(QPoint(0, 0), picture.deviceIndependentSize().toSize());
   if (!covered.contains(rect())) {
     const QRegion rest = QRegion(rect()).subtracted(QRegion(covered));
     for (const QRect& r : rest) p.fillRect(r, ToQColor(surface_.BackColor()));

@@ -49,12 +49,26 @@ QColor ToQColor(graph::Colour colour) {
   return QColor(graph::RedOf(colour), graph::GreenOf(colour), graph::BlueOf(colour));
 }
 
-QImageSurface::QImageSurface(int width, int height)
-    : BasicSurface(width, height), image_(std::max(width, 1), std::max(height, 1), QImage::Format_RGB32) {
-  image_.setDotsPerMeterX(kDotsPerMetre);
-  image_.setDotsPerMeterY(kDotsPerMetre);
-  image_.fill(ToQColor(BackColor()));
+QImageSurface::QImageSurface(int width, int height) : BasicSurface(width, height) {
+  image_ = MakeImage(width, height);
   FontChanged();
+}
+
+QImage QImageSurface::MakeImage(int width, int height) const {
+  QImage image(std::max(static_cast<int>(std::ceil(width * ratio_)), 1),
+               std::max(static_cast<int>(std::ceil(height * ratio_)), 1), QImage::Format_RGB32);
+  // Fonts are sized at 96 dots per inch of the surface's own pixels.
+  image.setDotsPerMeterX(kDotsPerMetre);
+  image.setDotsPerMeterY(kDotsPerMetre);
+  image.setDevicePixelRatio(ratio_);
+  image.fill(ToQColor(BackColor()));
+  return image;
+}
+
+void QImageSurface::SetDevicePixelRatio(double ratio) {
+  if (!(ratio > 0) || ratio == ratio_) return;
+  ratio_ = ratio;
+  Resize(static_cast<int>(ScaleWidth()), static_cast<int>(ScaleHeight()));
 }
 
 QImageSurface::~QImageSurface() { EndPainting(); }
@@ -87,10 +101,7 @@ void QImageSurface::Resize(int width, int height) { Resize(width, height, 0, 0);
 void QImageSurface::Resize(int width, int height, int dx, int dy) {
   EndPainting();
   BasicSurface::Resize(width, height);
-  QImage resized(std::max(width, 1), std::max(height, 1), QImage::Format_RGB32);
-  resized.setDotsPerMeterX(kDotsPerMetre);
-  resized.setDotsPerMeterY(kDotsPerMetre);
-  resized.fill(ToQColor(BackColor()));
+  QImage resized = MakeImage(width, height);
   {
     QPainter copy(&resized);
     copy.drawImage(dx, dy, image_);

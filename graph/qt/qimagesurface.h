@@ -38,6 +38,14 @@ class QImageSurface final : public graph::BasicSurface {
   void Resize(int width, int height) override;
   // The same with the old picture moved by (dx, dy) pixels.
   void Resize(int width, int height, int dx, int dy);
+  // The picture's pixels per surface pixel: 2 on a screen at 200%, where
+  // the picture holds twice the pixels each way and every drawing call
+  // still takes the surface's own coordinates, so lines and text are drawn
+  // at the screen's density and the geometry does not change. The picture
+  // held is kept, scaled; set it before drawing. Image() then has this
+  // devicePixelRatio.
+  void SetDevicePixelRatio(double ratio);
+  double DevicePixelRatio() const { return ratio_; }
 
   // Whether a font name is one of the symbol fonts the surface draws itself.
   static bool IsSymbolFont(std::string_view name);
@@ -71,7 +79,11 @@ class QImageSurface final : public graph::BasicSurface {
     bool operator==(const PenKey&) const = default;
   };
 
+  // A blank picture of a surface size at the ratio.
+  QImage MakeImage(int width, int height) const;
+
   QImage image_;
+  double ratio_ = 1.0;
   PenKey penKey_;
   std::unique_ptr<QPainter> painter_;
   QFont font_;

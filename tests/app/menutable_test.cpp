@@ -168,10 +168,12 @@ TEST(MenuTable, ToolsOfLaterVersionsAreDisabledAndTheGraphCommandsNeedAWindow) {
       {"mnuFile", 1, EnableRule::NeedsWindow, Command::Close},
       {"mnuFile", 3, EnableRule::NeedsWindow, Command::DrawFunction},
       {"mnuFile", 4, EnableRule::NeedsWindow, Command::DrawTangent},
-      {"mnuFile", 13, EnableRule::NotBuilt, Command::PrintSetup},
+      {"mnuFile", 13, EnableRule::Always, Command::PrintSetup},
       {"mnuFile", 15, EnableRule::Always, Command::Exit},
       {"mnubmp", -1, EnableRule::NeedsWindow, Command::SaveBmp},
-      {"mnujpg", -1, EnableRule::NotBuilt, Command::SaveJpeg},
+      {"mnujpg", -1, EnableRule::NeedsWindow, Command::SaveJpeg},
+      {"mnuFile2", -1, EnableRule::NeedsWindow, Command::PrintGraph},
+      {"mnuFile3", -1, EnableRule::NeedsWindow, Command::PrintHistory},
       {"mnued2", -1, EnableRule::NeedsWindow, Command::ClearAll},
       {"mnuclearall", -1, EnableRule::NeedsWindow, Command::ClearGrid},
       {"mnuTools", 11, EnableRule::NotBuilt, Command::ToolScientific},
@@ -179,7 +181,7 @@ TEST(MenuTable, ToolsOfLaterVersionsAreDisabledAndTheGraphCommandsNeedAWindow) {
       {"mnuTools", 14, EnableRule::Always, Command::ToolMatrix},
       {"mnuTools", 17, EnableRule::Always, Command::ToolMathPad},
       {"mnuOptions", -1, EnableRule::NeedsWindow, Command::Options},
-      {"mnuHelpContents", -1, EnableRule::HelpFile, Command::HelpContents},
+      {"mnuHelpContents", -1, EnableRule::Always, Command::HelpContents},
   };
   for (const auto& c : cases) {
     const MenuItem* item = FindMenuItem(c.name, c.index);
