@@ -25,14 +25,10 @@ constexpr std::string_view kUsage =
     "usage: velmora-cli plot [--settings FILE] [--width W] [--height H] [--history FILE]\n"
     "         [--type cartesian|parametric|polar] --y TEXT [--x TEXT] ...\n"
     "         [--zoom in|out|default|Z] [--right N] [--left N] [--up N] [--down N] [--center] ...\n"
-    "         [--tangent X0] [--normal X0] [--integral XMIN XMAX [--average V] [--hide-curve]]
-"
-    "         [--derivative] [--label TEXT X Y [--angle DEG] [--transparent]] ...
-"
-    "         [--replay] [--png FILE] [--jpeg FILE [--quality Q]] [--bmp FILE] [--pdf FILE]
-"
-    "         [--trace] [--table] [--status]
-";
+    "         [--tangent X0] [--normal X0] [--integral XMIN XMAX [--average V] [--hide-curve]]\n"
+    "         [--derivative] [--label TEXT X Y [--angle DEG] [--transparent]] ...\n"
+    "         [--replay] [--png FILE] [--jpeg FILE [--quality Q]] [--bmp FILE] [--pdf FILE]\n"
+    "         [--trace] [--table] [--status]\n";
 
 // A batch run asks nothing: the move and zoom commands get their answers
 // from the command line through the window's apply routines.
