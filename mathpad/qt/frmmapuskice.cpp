@@ -29,6 +29,7 @@
 #include "mathpad/padtexts.h"
 #include "mathpad/qt/frmansi.h"
 #include "mathpad/qt/frmfind.h"
+#include "mathpad/qt/padeditor.h"
 #include "platform/qt/qtsavefile.h"
 #include "platform/qt/qtstring.h"
 #include "platform/settingskeys.h"
@@ -99,7 +100,7 @@ FrmMaPuskice::FrmMaPuskice(QWidget* owner, MathPadServices services)
     : QMainWindow(owner, Qt::Window), services_(services), file_(*this, PadServicesOf(services)) {
   setObjectName(QStringLiteral("frmMaPuskice"));
   setAttribute(Qt::WA_DeleteOnClose);
-  rtbp_ = new QTextEdit(this);
+  rtbp_ = new PadEditor(this, [this](const QImage& image) { InsertImage(image); });
   rtbp_->setObjectName(QStringLiteral("rtbp"));
   rtbp_->setAcceptRichText(true);
   // The document's font: MathPad's font settings, "Arial" 10 unless set.
@@ -694,6 +695,14 @@ bool FrmMaPuskice::InsertImageFile(const QString& path) {
   image.setHeight(picture->second.height());
   rtbp_->textCursor().insertImage(image);
   return true;
+}
+
+void FrmMaPuskice::InsertImage(const QImage& image) {
+  QTextImageFormat format;
+  format.setName(pictures_.Add(*rtbp_->document(), PictureFromImage(image), image));
+  format.setWidth(image.width());
+  format.setHeight(image.height());
+  rtbp_->textCursor().insertImage(format);
 }
 
 void FrmMaPuskice::InsertDateTime() {

@@ -95,6 +95,8 @@ class FrmMaPuskice final : public QMainWindow, public mathpad::PadView, public p
   // Tools commands.
   void InsertImage();
   bool InsertImageFile(const QString& path);
+  // A picture from the clipboard or another window, kept as PNG.
+  void InsertImage(const QImage& image);
   void InsertDateTime();
   void InsertSymbol(const QString& text, const QString& family);
   void Print();

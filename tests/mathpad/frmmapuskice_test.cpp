@@ -4,6 +4,8 @@
 #include "mathpad/qt/frmmapuskice.h"
 
 #include <QAction>
+#include <QApplication>
+#include <QClipboard>
 #include <QImage>
 #include <QLabel>
 #include <QLineEdit>
@@ -217,6 +219,20 @@ TEST_F(PadWindowTest, FormattingAndPicturesSurviveSaveAndOpen) {
   EXPECT_TRUE(after.paragraphs[1].bullet);
   ASSERT_TRUE(after.paragraphs[2].runs.at(0).picture.has_value());
   EXPECT_EQ(after.paragraphs[2].runs[0].picture->widthPixels, 40);
+}
+
+TEST_F(PadWindowTest, PastedPictureIsKeptAsPng) {
+  QImage picture(20, 10, QImage::Format_RGB32);
+  picture.fill(Qt::red);
+  QApplication::clipboard()->setImage(picture);
+  pad->RefreshEditMenu();
+  EXPECT_TRUE(pad->Action("mnuEditPaste")->isEnabled()) << "a picture on the clipboard can be pasted";
+  pad->Action("mnuEditPaste")->trigger();
+  const rtf::Document document = pad->Content();
+  ASSERT_EQ(document.paragraphs.at(0).runs.size(), 1u);
+  ASSERT_TRUE(document.paragraphs[0].runs[0].picture.has_value());
+  EXPECT_EQ(document.paragraphs[0].runs[0].picture->kind, rtf::Picture::Kind::Png);
+  EXPECT_EQ(document.paragraphs[0].runs[0].picture->widthPixels, 20);
 }
 
 TEST_F(PadWindowTest, WmfAndUnreadablePicturesAreRefused) {
