@@ -36,6 +36,13 @@ class FakeChild final : public GraphChild {
   void RedrawGrid() override { calls.push_back("RedrawGrid"); }
   void ClearFju() override { calls.push_back("ClearFju"); }
   void OpenPlottingOptions() override { calls.push_back("OpenPlottingOptions"); }
+  void mnuDrawTangent() override { calls.push_back("mnuDrawTangent"); }
+  void mnuDrawIntegral(bool fromToolbar) override {
+    calls.push_back(fromToolbar ? "mnuDrawIntegral(toolbar)" : "mnuDrawIntegral");
+  }
+  void CrtajFJUDeriv() override { calls.push_back("CrtajFJUDeriv"); }
+  void mnulabel() override { calls.push_back("mnulabel"); }
+  void mnusaveHistory() override { calls.push_back("mnusaveHistory"); }
   void SyncFromLogic() override { ++syncs; }
 
   void Draw(const std::string& y) {
@@ -107,6 +114,13 @@ TEST(FrameCommands, WindowSideRoutinesAreCalledByName) {
       {Command::SaveBmp, "Sav1"},
       {Command::LineWidth, "mnuPlotWidth"},
       {Command::Options, "OpenPlottingOptions"},
+      {Command::DrawTangent, "mnuDrawTangent"},
+      {Command::DrawIntegral, "mnuDrawIntegral"},
+      // The toolbar's Integral/Average refuses with its own text.
+      {Command::DrawIntegralAverage, "mnuDrawIntegral(toolbar)"},
+      {Command::DrawDerivative, "CrtajFJUDeriv"},
+      {Command::ToolLabel, "mnulabel"},
+      {Command::SaveHistory, "mnusaveHistory"},
   };
   for (const auto& c : cases) {
     Fixture f;

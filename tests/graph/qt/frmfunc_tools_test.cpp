@@ -8,6 +8,7 @@
 #include <QPlainTextEdit>
 #include <QPushButton>
 #include <QRadioButton>
+#include <QScrollBar>
 
 #include "graph/qt/frmlabel.h"
 #include "graph/qt/frmmini.h"
@@ -179,6 +180,48 @@ TEST_F(FrmFuncTools, TheLabelDialogOffersTheFunctionAndHoldsOneLabelAtATime) {
   w.daLabele();
   EXPECT_FALSE(w.picMCRBox()->isVisible());
   EXPECT_GT(CountPixels(Picture(), 0), before);  // the text is in the picture now
+}
+
+TEST_F(FrmFuncTools, DraggingTheLabelMovesItAndShowsTheHint) {
+  graph_qt::FrmFunc& w = Drawn(QStringLiteral("X^2"));
+  graph_qt::FrmLabel* dialog = w.mnulabel();
+  ASSERT_NE(dialog, nullptr);
+  QTest::mouseClick(dialog->cmdLabel(), Qt::LeftButton);
+  graph_qt::PicMcrBox* box = w.picMCRBox();
+  const QPoint start = box->pos();
+  const double left = Logic().picMCRBox().Left();
+  QTest::mousePress(box, Qt::LeftButton, Qt::NoModifier, QPoint(2, 2));
+  QMouseEvent move(QEvent::MouseMove, QPointF(42, 32), box->mapToGlobal(QPointF(42, 32)), Qt::NoButton,
+                   Qt::LeftButton, Qt::NoModifier);
+  QApplication::sendEvent(box, &move);
+  QTest::mouseRelease(box, Qt::LeftButton, Qt::NoModifier, QPoint(42, 32));
+  EXPECT_EQ(box->pos(), start + QPoint(40, 30));
+  EXPECT_EQ(Logic().picMCRBox().Left(), left + 40);
+  EXPECT_EQ(w.LblChart()->text(), QStringLiteral("Drag the Label and click right mouse to insert or delete"));
+  // Burnt in where it was dragged to.
+  const QImage before = Picture();
+  w.daLabele();
+  const QImage after = Picture();
+  int changedNearNewPlace = 0;
+  for (int y = start.y() + 30; y < start.y() + 30 + box->height(); ++y)
+    for (int x = start.x() + 40; x < start.x() + 40 + box->width(); ++x)
+      changedNearNewPlace += before.pixel(x, y) != after.pixel(x, y);
+  EXPECT_GT(changedNearNewPlace, 0);
+}
+
+TEST_F(FrmFuncTools, TheHistoryIsScrolledToItsNewestRecord) {
+  graph_qt::FrmFunc& w = Drawn(QStringLiteral("X^2"));
+  for (int i = 0; i < 6; ++i) {
+    graph_qt::FrmUnesit* dialog = w.mnuDrawTangent();
+    ASSERT_NE(dialog, nullptr);
+    dialog->Text1()->setText(QStringLiteral("1"));
+    QTest::mouseClick(dialog->Command1(), Qt::LeftButton);
+    Logic().SetFunctionTexts("X^2", "K");
+    w.SyncFromLogic();
+  }
+  QScrollBar* bar = w.rtb()->verticalScrollBar();
+  EXPECT_GT(bar->maximum(), 0);
+  EXPECT_EQ(bar->value(), bar->maximum());
 }
 
 TEST_F(FrmFuncTools, AParametricLabelHoldsBothEquationsWithTwoBlanksBetween) {
