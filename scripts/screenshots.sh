@@ -1,9 +1,11 @@
 #!/usr/bin/env bash
 # Runs Velmora in a virtual X server and saves PNG screenshots into
 # BUILD_DIR/screenshots: the frame with three example graph windows
-# (frame.png) and the Plotting Options dialog (options.png). The program
-# runs on fresh settings in a temporary folder, so the pictures show the
-# defaults and the user's own settings are never touched.
+# (frame.png), the Plotting Options dialog (options.png) and the Complex
+# Calculator after an operation and in simple mode (complex.png,
+# complex_simple.png). The program runs on fresh settings in a temporary
+# folder, so the pictures show the defaults and the user's own settings are
+# never touched.
 set -euo pipefail
 
 build_dir=${1:-build}
