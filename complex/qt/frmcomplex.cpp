@@ -34,33 +34,38 @@ using qtplatform::ToStdString;
 
 constexpr const char* kCaption = "Complex Calculator";
 
-// The entries of the popup frmmenu with the key group that shows them.
+// The keys that open the popup frmmenu, each with the entries that fit it.
+constexpr int kConvertKey = 0;   // cmdconv
+constexpr int kArgumentKey = 1;  // Command1
+constexpr int kLogKey = 2;       // cmdlog
+constexpr int kMemoryKey = 3;    // cmdMemory2, MR
+
 struct PopupEntry {
   const char* name;
   const char* caption;
-  int group;  // PopupGroup
+  int key;  // the key whose popup shows the entry
 };
 
 constexpr PopupEntry kPopupEntries[] = {
-    {"mnur1", "Replace Complex (A+iB) with the Result", 0},
-    {"mnur2", "Replace Complex (C+iD) with the Result", 0},
-    {"mnuswap", "Swap (A+iB) and (C+iD)", 0},
-    {"mnucon1", "Conjugate (A+iB)", 0},
-    {"mnucon2", "Conjugate (C+iD)", 0},
-    {"mnulog1", "Log (A + iB) to the base e", 2},
-    {"mnulog2", "Log (A+iB) to the base (C+iD)", 2},
-    {"mnuasA", "As (A+iB)", 3},
-    {"mnuasC", "As (C+iD)", 3},
-    {"mnugrad", "Get Argument in Rad", 1},
-    {"mnugdeg", "Get Argument in Deg", 1},
+    {"mnur1", "Replace Complex (A+iB) with the Result", kConvertKey},
+    {"mnur2", "Replace Complex (C+iD) with the Result", kConvertKey},
+    {"mnuswap", "Swap (A+iB) and (C+iD)", kConvertKey},
+    {"mnucon1", "Conjugate (A+iB)", kConvertKey},
+    {"mnucon2", "Conjugate (C+iD)", kConvertKey},
+    {"mnulog1", "Log (A + iB) to the base e", kLogKey},
+    {"mnulog2", "Log (A+iB) to the base (C+iD)", kLogKey},
+    {"mnuasA", "As (A+iB)", kMemoryKey},
+    {"mnuasC", "As (C+iD)", kMemoryKey},
+    {"mnugrad", "Get Argument in Rad", kArgumentKey},
+    {"mnugdeg", "Get Argument in Deg", kArgumentKey},
 };
 
 // The "Complex" popup's entries that open another tool.
 struct ToolEntry {
   const char* name;
   const char* caption;
-  bool graphMode;  // the frame with its graph windows rather than a tool
-  platform::ToolWindow window;
+  bool graphMode;               // the frame with its graph windows rather than a tool
+  platform::ToolWindow window;  // the tool (unused for the graph mode)
 };
 
 constexpr ToolEntry kToolEntries[] = {
@@ -161,13 +166,11 @@ void FrmComplex::Wire() {
     connect(found->second, &QPushButton::clicked, this, [this, operation] { RunOperation(operation); });
   }
   connect(face_.operations.at(QStringLiteral("Command1")), &QPushButton::clicked, this,
-          [this] { ShowPopup(PopupGroup::Argument, face_.operations.at(QStringLiteral("Command1"))); });
+          [this] { ShowPopup(kArgumentKey, face_.operations.at(QStringLiteral("Command1"))); });
   connect(face_.operations.at(QStringLiteral("cmdlog")), &QPushButton::clicked, this,
-          [this] { ShowPopup(PopupGroup::Logarithm, face_.operations.at(QStringLiteral("cmdlog"))); });
-  connect(face_.cmdconv, &QPushButton::clicked, this,
-          [this] { ShowPopup(PopupGroup::Convert, face_.cmdconv); });
-  connect(face_.cmdMemory2, &QPushButton::clicked, this,
-          [this] { ShowPopup(PopupGroup::Memory, face_.cmdMemory2); });
+          [this] { ShowPopup(kLogKey, face_.operations.at(QStringLiteral("cmdlog"))); });
+  connect(face_.cmdconv, &QPushButton::clicked, this, [this] { ShowPopup(kConvertKey, face_.cmdconv); });
+  connect(face_.cmdMemory2, &QPushButton::clicked, this, [this] { ShowPopup(kMemoryKey, face_.cmdMemory2); });
 
   connect(face_.cmdMemory1, &QPushButton::clicked, this, [this] {
     complex::MemoryAdd(calc_.Fields(), *services_.messages);
@@ -218,7 +221,7 @@ void FrmComplex::BuildPopup() {
   for (const PopupEntry& entry : kPopupEntries) {
     QAction* action = frmmenu_->addAction(QString::fromLatin1(entry.caption));
     action->setObjectName(QString::fromLatin1(entry.name));
-    action->setData(entry.group);
+    action->setData(entry.key);
   }
   const auto on = [this](const char* name, auto&& run) {
     connect(MenuAction(name), &QAction::triggered, this, [this, run] {
@@ -282,9 +285,8 @@ void FrmComplex::BuildComplexMenu() {
 
 void FrmComplex::ShowComplexMenu(const QPoint& at) { complexMenu_->popup(mapToGlobal(at)); }
 
-void FrmComplex::ShowPopup(PopupGroup group, QWidget* at) {
-  for (QAction* action : frmmenu_->actions())
-    action->setVisible(action->data().toInt() == static_cast<int>(group));
+void FrmComplex::ShowPopup(int key, QWidget* at) {
+  for (QAction* action : frmmenu_->actions()) action->setVisible(action->data().toInt() == key);
   frmmenu_->popup(at->mapToGlobal(QPoint(0, at->height())));
 }
 

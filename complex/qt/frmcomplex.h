@@ -74,8 +74,6 @@ class FrmComplex final : public QWidget {
   void closeEvent(QCloseEvent* event) override;
 
  private:
-  enum class PopupGroup { Convert, Argument, Logarithm, Memory };
-
   void Wire();
   void BuildPopup();
   void BuildComplexMenu();
@@ -83,7 +81,8 @@ class FrmComplex final : public QWidget {
   bool HandleKey(const QKeyEvent& event);
   void RunOperation(complex::Operation operation);
   void Calculate();
-  void ShowPopup(PopupGroup group, QWidget* at);
+  // The popup frmmenu at a key, with the entries of that key only.
+  void ShowPopup(int key, QWidget* at);
   void FlushLog();
   void SetPanelShown(bool shown);
   void PanelMenuClicked();
