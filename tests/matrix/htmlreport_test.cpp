@@ -166,5 +166,30 @@ TEST_F(PublishHtmlTest, WriteFailureShowsTheFault) {
   EXPECT_EQ(box.Boxes()[0].icon, platform::MsgIcon::Critical);
 }
 
+TEST_F(PublishHtmlTest, AGivenWriterTakesTheBytesAndItsFailureShowsTheFault) {
+  // The window writes through its own file layer; the command hands it the
+  // report's bytes and treats its failure as its own.
+  RecordingMessageBox box;
+  box.Answer(platform::MsgResult::No);
+  std::string written;
+  PublishHtml(
+      folder_ / "r.htm", report_, box, [](const fs::path&) { return true; },
+      [&](const fs::path&, const std::string& bytes) {
+        written = bytes;
+        return true;
+      });
+  EXPECT_EQ(written, HtmlReport(report_));
+  EXPECT_FALSE(fs::exists(folder_ / "r.htm"));  // nothing written besides
+  ASSERT_EQ(box.Boxes().size(), 1U);
+  EXPECT_EQ(box.Boxes()[0].text, "Preview in Browser?");
+
+  RecordingMessageBox failing;
+  PublishHtml(
+      folder_ / "r.htm", report_, failing, [](const fs::path&) { return true; },
+      [](const fs::path&, const std::string&) { return false; });
+  ASSERT_EQ(failing.Boxes().size(), 1U);
+  EXPECT_EQ(failing.Boxes()[0].text, "Path/File access error");
+}
+
 }  // namespace
 }  // namespace velmora::matrix
