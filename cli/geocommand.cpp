@@ -15,6 +15,7 @@
 namespace velmora::cli {
 namespace {
 
+
 void PrintBoxes(const geometry::BoxRecord& boxes, std::ostream& out) {
   for (std::size_t i = 0; i < boxes.Size(); ++i) out << boxes.NameAt(i) << '=' << boxes.TextAt(i) << '\n';
 }
