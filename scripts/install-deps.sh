@@ -15,7 +15,7 @@ packages=(
   desktop-file-utils xdg-utils shared-mime-info libglib2.0-bin
   fonts-liberation fonts-dejavu-core
   python3-numpy
-  libreoffice-writer-nogui xdg-utils
+  libreoffice-writer-nogui
   tidy
   libjpeg62-turbo-dev libjpeg-turbo-progs poppler-utils
 )
