@@ -399,9 +399,6 @@ int GeometryScreenshots(FrmMain& frame, const QDir& dir) {
   return failures;
 }
 
-  return failures;
-}
-
 // A file dialog that is never answered: the pictures show the dialogs
 // before anything is chosen.
 class NoFileDialog final : public platform::FileDialog {
@@ -497,7 +494,6 @@ int TakeScreenshots(FrmMain& frame, const QString& folder) {
   failures += MatrixScreenshots(frame, dir);
   failures += GeometryScreenshots(frame, dir);
   failures += OutputScreenshots(frame, dir);
-  return failures;
   return failures;
 }
 

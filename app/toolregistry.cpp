@@ -1,6 +1,5 @@
 #include "app/toolregistry.h"
 
-#include <QDir>
 #include <cstdio>
 
 #include <QCoreApplication>
@@ -10,18 +9,18 @@
 #include "app/frmmain.h"
 #include "app/menutable.h"
 #include "app/toolwindowhost.h"
-#include "mathpad/qt/frmmapuskice.h"
+#include "complex/qt/frmcomplex.h"
+#include "geometry/qt/frmconvert.h"
+#include "geometry/qt/frmgeo.h"
 #include "graph/qt/frmfunc.h"
+#include "mathpad/qt/frmmapuskice.h"
+#include "matrix/qt/filetype.h"
+#include "matrix/qt/frmmatrice.h"
 #include "tools/qt/frmanalizanew.h"
 #include "tools/qt/frmintav.h"
 #include "tools/qt/frmnjutn.h"
 #include "tools/qt/frmtabela.h"
 #include "tools/qt/frmtast.h"
-#include "complex/qt/frmcomplex.h"
-#include "matrix/qt/filetype.h"
-#include "matrix/qt/frmmatrice.h"
-#include "geometry/qt/frmconvert.h"
-#include "geometry/qt/frmgeo.h"
 
 namespace velmora::app {
 namespace {
@@ -36,6 +35,8 @@ tools_qt::ToolServices AnalysisServices(const FrameServices& services, ToolWindo
     return active != nullptr ? &active->Logic() : nullptr;
   };
   return out;
+}
+
 // The Matrix Calculator's services: the frame's, the host for MathPad, a
 // writable folder of the user's for the scratch files, and the desktop
 // registration of the .mcf type pointing at this program.
@@ -58,9 +59,6 @@ matrix_qt::FrmMatriceServices MatrixServices(const FrameServices& services, Tool
 }  // namespace
 
 void RegisterToolWindows(ToolWindowHost& host, const FrameServices& services) {
-  // One line a tool window, e.g.
-  //   host.Register(platform::ToolWindow::MathPad,
-  //                 [&services, &host](QWidget* owner) { return new ...(owner, ...); });
   host.Register(platform::ToolWindow::MathPad, [&services, &host](QWidget* owner) {
     return new mathpad_qt::FrmMaPuskice(owner, {services.settings, services.messages, services.input,
                                                 services.files, services.shell, services.colours, &host});
@@ -94,6 +92,12 @@ void RegisterToolWindows(ToolWindowHost& host, const FrameServices& services) {
   host.Register(platform::ToolWindow::Matrix, [&services, &host](QWidget* owner) {
     return new matrix_qt::FrmMatrice(owner, MatrixServices(services, host));
   });
+  host.Register(platform::ToolWindow::Geometry, [&services](QWidget* owner) {
+    return new geometry_qt::FrmGeo(owner, {services.messages, services.files, nullptr});
+  });
+  host.Register(platform::ToolWindow::Converter, [&services, &host](QWidget* owner) {
+    return new geometry_qt::FrmConvert(owner, {services.messages, &host, nullptr});
+  });
 }
 
 void OpenMatrixFile(ToolWindowHost& host, const QString& path) {
@@ -109,12 +113,6 @@ void OpenMatrixFile(ToolWindowHost& host, const QString& path) {
                  grid.Cols());
     std::fflush(stderr);
   }
-  host.Register(platform::ToolWindow::Geometry, [&services](QWidget* owner) {
-    return new geometry_qt::FrmGeo(owner, {services.messages, services.files, nullptr});
-  });
-  host.Register(platform::ToolWindow::Converter, [&services, &host](QWidget* owner) {
-    return new geometry_qt::FrmConvert(owner, {services.messages, &host, nullptr});
-  });
 }
 
 }  // namespace velmora::app

@@ -13,6 +13,7 @@
 #include "geometry/figuresave.h"
 #include "geometry/qt/figureview.h"
 #include "geometry/qt/geopagewidget.h"
+#include "output/qt/frmjpg.h"
 #include "platform/qt/qtclipboard.h"
 #include "platform/qt/qtsavefile.h"
 #include "platform/qt/qtstring.h"
@@ -64,6 +65,9 @@ FrmGeo::FrmGeo(QWidget* owner, GeoServices services) : QWidget(owner, Qt::Window
   addButton(QStringLiteral("cmdSavePicture"), QStringLiteral("Save Picture..."),
             QStringLiteral("Save the figure as a bitmap"), [this] { SavePicture(); })
       ->setEnabled(services_.files != nullptr);
+  addButton(QStringLiteral("cmdSaveJpeg"), QStringLiteral("JPEG..."),
+            QStringLiteral("Save the figure as a JPEG picture"), [this] { SaveJpeg(); })
+      ->setEnabled(services_.files != nullptr);
   buttons->addStretch(1);
   bottom->addLayout(buttons);
   layout->addLayout(bottom);
@@ -102,6 +106,11 @@ bool FrmGeo::SavePicture() {
   if (services_.files == nullptr) return false;
   return geometry::SaveFigurePicture(*services_.files, *services_.messages,
                                      [this](const std::string& path) { return Savjpg(ToQString(path)); });
+}
+
+void FrmGeo::SaveJpeg() {
+  if (services_.files == nullptr) return;
+  output_qt::SavePictureDialog(this, Picture(), *services_.files, *services_.messages);
 }
 
 bool FrmGeo::Savjpg(const QString& path) const {

@@ -55,6 +55,8 @@ class FrmGeo final : public QWidget {
   // `Sav1` of the calculator: the figure saved as a bitmap after the save
   // dialog and its questions.
   bool SavePicture();
+  // The figure through the JPEG dialog (quality, preview, file).
+  void SaveJpeg();
   // `Savjpg`: the figure written as a bitmap to `path` without a question,
   // the hand-over file the JPEG export reads. The one place a picture
   // leaves the calculator for another format.

@@ -16,8 +16,6 @@
 #include <QMenuBar>
 #include <QMimeData>
 #include <QPainter>
-#include <QPrintDialog>
-#include <QPrinter>
 #include <QStatusBar>
 #include <QTextBlock>
 #include <QTextCursor>
@@ -30,6 +28,8 @@
 #include "mathpad/qt/frmansi.h"
 #include "mathpad/qt/frmfind.h"
 #include "mathpad/qt/padeditor.h"
+#include "output/qt/frmpagesetup.h"
+#include "output/qt/printdialogs.h"
 #include "platform/qt/qtsavefile.h"
 #include "platform/qt/qtstring.h"
 #include "platform/settingskeys.h"
@@ -176,8 +176,9 @@ void FrmMaPuskice::BuildMenus() {
   connect(actions_["mnuEmail"], &QAction::triggered, this, [this] { file_.SendToEmail(); });
   fileMenu_->addSeparator();
   AddAction(fileMenu_, "mnuprint", "&Print...", &F::Print);
-  // Page setup belongs to the printing service, which this window does not have yet.
-  AddAction(fileMenu_, "mnuPrSetup", "Print Set&up...", nullptr)->setEnabled(false);
+  AddAction(fileMenu_, "mnuPrSetup", "Print Set&up...", nullptr);
+  connect(actions_["mnuPrSetup"], &QAction::triggered, this,
+          [this] { output_qt::PageSetupDialog(this, *services_.settings); });
   fileMenu_->addSeparator();
   AddAction(fileMenu_, "mnuExit", "E&xit\tAlt+F4", nullptr);
   connect(actions_["mnuExit"], &QAction::triggered, this, &QWidget::close);
@@ -718,18 +719,10 @@ void FrmMaPuskice::InsertSymbol(const QString& text, const QString& family) {
 }
 
 void FrmMaPuskice::Print() {
-  if (rtbp_->document()->isEmpty()) {
-    services_.messages->Show(std::string(mathpad::texts::kNothingToPrint),
-                             std::string(mathpad::texts::kTitle), platform::MsgIcon::Information,
-                             platform::MsgButtons::Ok);
-    return;
-  }
-  // The printing itself belongs to the printing service; the dialog lets
-  // the user pick the printer and the copies now.
-  QPrinter printer;
-  QPrintDialog dialog(&printer, this);
-  dialog.setWindowTitle(QStringLiteral("Print"));
-  dialog.exec();
+  // The print dialog first (a cancel ends the command), then "Nothing to
+  // print." for an empty page, else the document page by page inside the
+  // stored margins.
+  output_qt::PrintDocumentDialog(this, *rtbp_->document(), *services_.settings, *services_.messages);
 }
 
 }  // namespace velmora::mathpad_qt

@@ -6,9 +6,11 @@
 #include <QAction>
 #include <QApplication>
 #include <QClipboard>
+#include <QFileInfo>
 #include <QImage>
 #include <QLabel>
 #include <QLineEdit>
+#include <QPrinter>
 #include <QTest>
 #include <QTextCursor>
 #include <QTextEdit>
@@ -17,6 +19,7 @@
 #include "mathpad/documentfile.h"
 #include "mathpad/qt/frmansi.h"
 #include "mathpad/qt/padconvert.h"
+#include "output/qt/printdialogs.h"
 #include "rtf/rtfreader.h"
 #include "tests/mathpad/padwindowfixture.h"
 
@@ -265,11 +268,42 @@ TEST_F(PadWindowTest, OtherWindowsWriteThroughTheTarget) {
   EXPECT_EQ(pad->Content().paragraphs.back().runs.back().format.font, "Courier New");
 }
 
-TEST_F(PadWindowTest, PrintOfAnEmptyDocument) {
+// The print dialog answered by printing to a PDF file in the test's folder.
+class PrintToFile {
+ public:
+  explicit PrintToFile(std::string path) : path_(std::move(path)) {
+    output_qt::SetPrinterChooser([this](QPrinter& printer, QWidget*) {
+      ++asked;
+      printer.setOutputFormat(QPrinter::PdfFormat);
+      printer.setOutputFileName(QString::fromStdString(path_));
+      return true;
+    });
+  }
+  ~PrintToFile() { output_qt::SetPrinterChooser({}); }
+  int asked = 0;
+
+ private:
+  std::string path_;
+};
+
+TEST_F(PadWindowTest, PrintOfAnEmptyDocumentAsksForThePrinterThenSaysSo) {
+  PrintToFile printer(Path("empty.pdf"));
   pad->Action("mnuprint")->trigger();
+  EXPECT_EQ(printer.asked, 1);  // the dialog comes first
   ASSERT_EQ(messages.Boxes().size(), 1u);
   EXPECT_EQ(messages.Boxes()[0].text, "Nothing to print.");
+  EXPECT_FALSE(QFileInfo::exists(QString::fromStdString(Path("empty.pdf"))));
 }
+
+TEST_F(PadWindowTest, PrintOfADocumentWritesItsPages) {
+  Type(pad->Editor(), "printed words");
+  PrintToFile printer(Path("page.pdf"));
+  pad->Action("mnuprint")->trigger();
+  EXPECT_TRUE(messages.Boxes().empty());
+  EXPECT_GT(QFileInfo(QString::fromStdString(Path("page.pdf"))).size(), 0);
+}
+
+TEST_F(PadWindowTest, PrintSetupIsLive) { EXPECT_TRUE(pad->Action("mnuPrSetup")->isEnabled()); }
 
 TEST_F(PadWindowTest, SendToEmailHandsTheSavedFileOver) {
   Type(pad->Editor(), "mail");
