@@ -34,6 +34,7 @@ tools_qt::ToolServices AnalysisServices(const FrameServices& services, ToolWindo
     graph_qt::FrmFunc* active = frame != nullptr ? frame->ActiveGraphWindow() : nullptr;
     return active != nullptr ? &active->Logic() : nullptr;
   };
+  out.helpFile = QDir(services.programFolder).filePath(QString::fromUtf8(kHelpFile.data()));
   return out;
 }
 
