@@ -221,7 +221,7 @@ int AnalysisShots(FrmMain& frame, const QDir& dir) {
   shoot(ToolWindow::Evaluator, "evaluator.png", [](QWidget* w) {
     auto* e = static_cast<tools_qt::FrmTast*>(w);
     for (const char* text : {"2*pi*3", "sqr(2)", "exp(1)"}) {
-      e->WriteText(text);
+      e->Text1()->setEditText(QString::fromLatin1(text));
       e->Evaluate();
     }
   });

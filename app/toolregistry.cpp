@@ -28,12 +28,13 @@ namespace {
 // The frame's services as the analysis tools take them; the active graph
 // window is looked up each time a tool asks.
 tools_qt::ToolServices AnalysisServices(const FrameServices& services, ToolWindowHost& host, QWidget* owner) {
-  tools_qt::ToolServices out{services.messages, services.files, services.shell, &host, {}};
+  tools_qt::ToolServices out{services.messages, services.files, services.shell, &host, {}, {}};
   out.activeGraph = [owner]() -> graph::GraphToolTarget* {
     auto* frame = qobject_cast<FrmMain*>(owner);
     graph_qt::FrmFunc* active = frame != nullptr ? frame->ActiveGraphWindow() : nullptr;
     return active != nullptr ? &active->Logic() : nullptr;
   };
+  out.helpFile = QDir(services.programFolder).filePath(QString::fromUtf8(kHelpFile.data()));
   return out;
 }
 

@@ -23,6 +23,9 @@ class GraphHost {
   virtual void FocusFunctionBox() {}
   // The status bar's text panel shows this (the moves of the window).
   virtual void ShowStatusText(const std::string& /*text*/) {}
+  // A tool window changed the function boxes or drew on the surface; the
+  // window shows them.
+  virtual void ToolChanged() {}
 };
 
 }  // namespace velmora::graph

@@ -1,5 +1,6 @@
 #pragma once
 
+#include <cstdint>
 #include <string>
 #include <string_view>
 #include <vector>
@@ -12,6 +13,12 @@ struct ViewBounds {
   double right = 0;
   double top = 0;
   double bottom = 0;
+};
+
+// A point of a curve a tool hands to the window, in user units.
+struct CurvePoint {
+  double x = 0;
+  double y = 0;
 };
 
 // What a tool window may know of the active graph window and ask of it. A
@@ -44,6 +51,14 @@ class GraphToolTarget {
   // included). `x` counts in the parametric type only. False, and nothing
   // done, while a draw is running or for a type outside 1 to 3.
   virtual bool DrawFunction(int type, std::string_view y, std::string_view x) = 0;
+  // Writes a function a tool has rewritten back into the Y box, where the
+  // user sees it; nothing is drawn or remembered.
+  virtual void SetFunctionYText(std::string_view y) = 0;
+  // Joins the points, left to right, in `colour` (24-bit, blue in the high
+  // byte) on the plot, as the plot loop joins its samples: a point that is
+  // not finite or lies beyond 100 units lifts the pen. Nothing is
+  // remembered. False, and nothing drawn, while a draw is running.
+  virtual bool DrawCurve(const std::vector<CurvePoint>& points, std::uint32_t colour) = 0;
 };
 
 }  // namespace velmora::graph

@@ -138,6 +138,37 @@ bool GraphWindow::DrawFunction(int type, std::string_view y, std::string_view x)
   return true;
 }
 
+void GraphWindow::SetFunctionYText(std::string_view y) {
+  boxes_.SetTxtY(y);
+  if (services_.host != nullptr) services_.host->ToolChanged();
+}
+
+bool GraphWindow::DrawCurve(const std::vector<CurvePoint>& points, std::uint32_t colour) {
+  if (draw_.Drawing()) return false;
+  Surface& surface = pDraw();
+  const int style = surface.DrawStyle();
+  surface.SetDrawStyle(0);
+  bool penDown = false;
+  for (const CurvePoint& p : points) {
+    if (!std::isfinite(p.x) || !std::isfinite(p.y) || std::fabs(p.y) > 100 || std::fabs(p.x) > 100) {
+      penDown = false;
+      continue;
+    }
+    const double xp = view_.PixelX(p.x);
+    const double yp = view_.PixelY(p.y);
+    if (penDown) {
+      surface.LineTo(xp, yp, colour);
+    } else {
+      surface.SetCurrentX(xp);
+      surface.SetCurrentY(yp);
+    }
+    penDown = true;
+  }
+  surface.SetDrawStyle(style);
+  if (services_.host != nullptr) services_.host->ToolChanged();
+  return true;
+}
+
 // ---- Evaluation ------------------------------------------------------------------
 
 double GraphWindow::F(double v) { return EvaluateAt(draw_.FuncY(), v); }

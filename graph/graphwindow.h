@@ -383,6 +383,8 @@ class GraphWindow final : public expr::GraphFields, public GraphToolTarget {
   double ZoomFactor() const override { return view_.Zoom(); }
   bool IsDrawing() const override { return draw_.Drawing(); }
   bool DrawFunction(int type, std::string_view y, std::string_view x) override;
+  void SetFunctionYText(std::string_view y) override;
+  bool DrawCurve(const std::vector<CurvePoint>& points, std::uint32_t colour) override;
 
  private:
   // How a plot procedure differs from CrtajFJU around the one loop.

@@ -49,6 +49,7 @@ bool CriticalPoints::Calculate(const std::string& function, const Pulse& pulse) 
     *boxes[i] = expr::NumberToText(bounds[i]);
   }
   formula_ = expr::ReplaceAll(base::LowerCase(function), "k", "x");
+  if (window != nullptr) window->SetFunctionYText(formula_);
   stopped_ = false;
   double from = 0;
   double to = 0;

@@ -5,6 +5,7 @@
 #include <vector>
 
 #include "expr/formulacontrol.h"
+#include "graph/graphtooltarget.h"
 #include "graph/tablerows.h"
 #include "graph/valuetable.h"
 #include "platform/messagebox.h"
@@ -45,9 +46,13 @@ class CriticalPoints {
   std::string minText = "-2";     // `txtMin`
   std::string maxText = "2";      // `txtMax`
   bool increaseAccuracy = false;  // `Check1`
+  // The active graph window: the function as searched is written back into
+  // its Y box before the scan. Null: no window to write to.
+  graph::GraphToolTarget* window = nullptr;
 
   // "Calculate" on the active window's function. The function as searched
-  // ("k" read as "x", lower case) is kept in Formula(); the bounds are
+  // ("k" read as "x", lower case) is kept in Formula() and written back
+  // into the window's Y box; the bounds are
   // written back into their boxes as numbers. False when the range is
   // missing or the run was stopped.
   bool Calculate(const std::string& function, const Pulse& pulse = {});

@@ -1,5 +1,6 @@
 #include "tools/derivativescan.h"
 
+#include <algorithm>
 #include <cmath>
 
 #include "expr/checked.h"
@@ -13,6 +14,7 @@ bool DerivativeScan::Run(const std::string& function, double xmin, double xmax, 
                          const Pulse& pulse, const Plot& plot) {
   rising_.clear();
   falling_.clear();
+  curve_.clear();
   samples_ = 0;
   if (!(zoom > 0) || !(xmax >= xmin)) return true;
   const std::string expression = expr::ToolTextForm(function);
@@ -28,6 +30,7 @@ bool DerivativeScan::Run(const std::string& function, double xmin, double xmax, 
     const bool ok = expr::ResumeNext([&] { d = expr::Checked(engine_.Result()); });
     engine_.SetFormula("PopAll()");
     if (ok) {
+      curve_.push_back({x, -d});
       if (plot) plot(x, d);
       double rounded = 0;
       std::string text;
@@ -42,6 +45,16 @@ bool DerivativeScan::Run(const std::string& function, double xmin, double xmax, 
     if (pulse && !pulse(columns > 0 ? static_cast<int>(100 * column / columns) : 100)) return false;
   }
   return true;
+}
+
+std::uint32_t DerivativeScan::PenColour(const std::function<double()>& draw) {
+  const auto part = [&draw](int range) {
+    return static_cast<std::uint32_t>(std::clamp(static_cast<int>(draw() * range), 0, range - 1));
+  };
+  const std::uint32_t red = part(200);
+  const std::uint32_t green = part(25);
+  const std::uint32_t blue = part(255);
+  return red | (green << 8) | (blue << 16);
 }
 
 }  // namespace velmora::tools

@@ -1,10 +1,12 @@
 #pragma once
 
+#include <cstdint>
 #include <functional>
 #include <string>
 #include <vector>
 
 #include "expr/formulacontrol.h"
+#include "graph/graphtooltarget.h"
 
 namespace velmora::tools {
 
@@ -36,12 +38,20 @@ class DerivativeScan {
 
   const std::vector<std::string>& Rising() const { return rising_; }
   const std::vector<std::string>& Falling() const { return falling_; }
+  // The curve the graph window draws for the scan: at each sample whose
+  // derivative could be had, X and the derivative upside down.
+  const std::vector<graph::CurvePoint>& Curve() const { return curve_; }
+  // The scan's pen: red from 0 to 199, green from 0 to 24, blue from 0 to
+  // 254, each drawn from `draw` (a value in [0, 1)), as 24-bit colour with
+  // blue in the high byte.
+  static std::uint32_t PenColour(const std::function<double()>& draw);
   int Samples() const { return samples_; }
 
  private:
   expr::FormulaControl& engine_;
   std::vector<std::string> rising_;
   std::vector<std::string> falling_;
+  std::vector<graph::CurvePoint> curve_;
   int samples_ = 0;
 };
 

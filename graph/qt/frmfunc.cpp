@@ -484,6 +484,11 @@ void FrmFunc::FocusFunctionBox() {
   txtY_->lineEdit()->end(false);
 }
 
+void FrmFunc::ToolChanged() {
+  SyncFromLogic();
+  pDraw_->update();
+}
+
 void FrmFunc::ShowStatusText(const std::string& text) {
   if (services_.frame != nullptr) services_.frame->ShowStatusText(text);
 }

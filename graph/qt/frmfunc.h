@@ -206,6 +206,7 @@ class FrmFunc : public QWidget, private graph::GraphHost {
   void TypeChosen(int type) override;
   void FocusFunctionBox() override;
   void ShowStatusText(const std::string& text) override;
+  void ToolChanged() override;
 
   void BuildWidgets();
   void ConnectWidgets();

@@ -3,6 +3,8 @@
 
 #include <gtest/gtest.h>
 
+#include <cmath>
+
 #include "tests/graph/windowfixture.h"
 #include "tests/support/fakegraphtarget.h"
 
@@ -88,6 +90,65 @@ TEST(GraphToolTarget, NoDrawWhileTheWindowDraws) {
   EXPECT_TRUE(target.IsDrawing());
   EXPECT_FALSE(target.DrawFunction(kCartesian, "X", "K"));
   EXPECT_EQ(w.State().KolkoFunkc(), 0);
+}
+
+TEST(GraphToolTarget, AToolWritesItsFunctionBackIntoTheYBox) {
+  WindowFixture f;
+  GraphWindow& w = f.Make();
+  w.SettxtY("X^2");
+  GraphToolTarget& target = w;
+  target.SetFunctionYText("x^2");
+  EXPECT_EQ(w.Boxes().txtY().Text, "x^2");
+  EXPECT_EQ(f.host.toolChanges, 1) << "the view shows the new text";
+  EXPECT_TRUE(w.DrawnFunctions().empty()) << "nothing drawn or remembered";
+  EXPECT_EQ(w.State().KolkoFunkc(), 0);
+}
+
+TEST(GraphToolTarget, DrawCurveJoinsThePointsAndLiftsThePenBeyond100) {
+  constexpr Colour kPen = 0x7F0C64;
+  const struct {
+    std::vector<CurvePoint> points;
+    std::size_t lines;
+    const char* why;
+  } rows[] = {
+      {{{0, 0}, {1, -1}, {2, -2}}, 2, "three points, two strokes"},
+      {{{0, 0}, {1, 150}, {2, -2}, {3, -3}}, 1, "beyond 100 units the pen lifts on both sides"},
+      {{{0, 0}, {1, std::nan("")}, {2, 1}}, 0, "a value that is not finite lifts it too"},
+      {{}, 0, "no points, nothing drawn"},
+  };
+  for (const auto& row : rows) {
+    WindowFixture f(600, 400);
+    GraphWindow& w = f.Make();
+    w.SetView(30, 300, 200);
+    f.surface.ClearOps();
+    GraphToolTarget& target = w;
+    EXPECT_TRUE(target.DrawCurve(row.points, kPen)) << row.why;
+    const auto lines = f.surface.LinesIn(kPen);
+    EXPECT_EQ(lines.size(), row.lines) << row.why;
+    EXPECT_EQ(f.surface.Lines().size(), row.lines) << "no other stroke: " << row.why;
+    EXPECT_EQ(f.host.toolChanges, 1) << row.why;
+  }
+  WindowFixture f(600, 400);
+  GraphWindow& w = f.Make();
+  w.SetView(30, 300, 200);
+  f.surface.ClearOps();
+  static_cast<GraphToolTarget&>(w).DrawCurve({{0, 0}, {1, -1}}, kPen);
+  const auto lines = f.surface.LinesIn(kPen);
+  ASSERT_EQ(lines.size(), 1u);
+  EXPECT_DOUBLE_EQ(lines[0].x1, 300);
+  EXPECT_DOUBLE_EQ(lines[0].y1, 200);
+  EXPECT_DOUBLE_EQ(lines[0].x2, 330) << "one unit is 30 pixels to the right";
+  EXPECT_DOUBLE_EQ(lines[0].y2, 230) << "and Y grows upwards";
+  EXPECT_EQ(lines[0].style, 0) << "a solid pen";
+}
+
+TEST(GraphToolTarget, NoCurveWhileTheWindowDraws) {
+  WindowFixture f;
+  GraphWindow& w = f.Make();
+  const auto busy = w.Busy();
+  f.surface.ClearOps();
+  EXPECT_FALSE(static_cast<GraphToolTarget&>(w).DrawCurve({{0, 0}, {1, 1}}, 255));
+  EXPECT_TRUE(f.surface.Lines().empty());
 }
 
 TEST(FakeGraphTarget, RecordsWhatAToolAsksAndRefusesDuringADraw) {

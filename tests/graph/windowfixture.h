@@ -31,8 +31,10 @@ class RecordingHost final : public graph::GraphHost {
   void TypeChosen(int type) override { types.push_back(type); }
   void FocusFunctionBox() override { ++focuses; }
   void ShowStatusText(const std::string& text) override { statusTexts.push_back(text); }
+  void ToolChanged() override { ++toolChanges; }
 
   int pumps = 0;
+  int toolChanges = 0;
   int progressChanges = 0;
   int frameRefreshes = 0;
   int focuses = 0;

@@ -34,6 +34,12 @@ class FakeGraphTarget final : public graph::GraphToolTarget {
     requests.push_back({drawType, std::string(drawY), std::string(drawX)});
     return true;
   }
+  void SetFunctionYText(std::string_view text) override { y = std::string(text); }
+  bool DrawCurve(const std::vector<graph::CurvePoint>& points, std::uint32_t colour) override {
+    if (drawing) return false;
+    curves.push_back({points, colour});
+    return true;
+  }
 
   std::string y;
   std::string x = "K";
@@ -45,6 +51,11 @@ class FakeGraphTarget final : public graph::GraphToolTarget {
   double zoom = 30;
   bool drawing = false;
   std::vector<DrawRequest> requests;
+  struct Curve {
+    std::vector<graph::CurvePoint> points;
+    std::uint32_t colour;
+  };
+  std::vector<Curve> curves;
 };
 
 }  // namespace velmora::testing

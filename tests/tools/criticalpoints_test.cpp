@@ -8,6 +8,7 @@
 #include <vector>
 
 #include "expr/formulacontrol.h"
+#include "tests/support/fakegraphtarget.h"
 #include "tests/support/recordingmessagebox.h"
 
 namespace velmora::tools {
@@ -91,6 +92,28 @@ TEST(CriticalPoints, AnEmptyRangeIsRefused) {
   EXPECT_EQ(f.boxes.Boxes()[0].text, "Define range.");
   EXPECT_EQ(f.boxes.Boxes()[0].icon, platform::MsgIcon::Critical);
   EXPECT_EQ(f.tool.Log(), "");
+}
+
+TEST(CriticalPoints, TheSearchedFunctionGoesBackIntoTheGraphWindow) {
+  const struct {
+    const char* function;
+    const char* min;
+    const char* written;
+    const char* why;
+  } rows[] = {
+      {"X^2", "-2", "x^2", "lower case"},
+      {"Sin(K)+K", "-1", "sin(x)+x", "K read as x"},
+      {"x^3", "", "X^3", "no range: the window keeps its text"},
+  };
+  for (const auto& row : rows) {
+    Fixture f;
+    testing::FakeGraphTarget window;
+    window.y = row.min[0] == 0 ? "X^3" : row.function;
+    f.tool.window = &window;
+    f.Run(row.function, row.min, "1");
+    EXPECT_EQ(window.y, row.written) << row.why;
+    EXPECT_TRUE(window.requests.empty()) << "nothing drawn: " << row.why;
+  }
 }
 
 TEST(CriticalPoints, TheScanTableKeepsOnlyRowsOfSmallSlope) {

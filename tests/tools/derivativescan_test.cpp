@@ -67,5 +67,35 @@ TEST(DerivativeScan, AStopEndsTheScan) {
   EXPECT_EQ(scan.Samples(), 5);
 }
 
+TEST(DerivativeScan, TheCurveIsTheDerivativeUpsideDown) {
+  const auto engine = expr::MakeFormulaControl();
+  DerivativeScan scan(*engine);
+  scan.Run("x^2", 0, 1, 10, 2);
+  ASSERT_EQ(scan.Curve().size(), 11u) << "one point a sample";
+  for (const graph::CurvePoint& p : scan.Curve()) EXPECT_NEAR(p.y, -2 * p.x, 1e-6) << "at x = " << p.x;
+  scan.Run("x", 0, 1, 10, 2);
+  EXPECT_EQ(scan.Curve().size(), 11u) << "a new run starts a new curve";
+  EXPECT_NEAR(scan.Curve().front().y, -1, 1e-9);
+}
+
+TEST(DerivativeScan, ThePenColourTakesEachPartInItsRange) {
+  const struct {
+    double draw;
+    std::uint32_t colour;
+    const char* why;
+  } rows[] = {
+      {0, 0, "the lowest draw: black"},
+      {0.5, 100u | (12u << 8) | (127u << 16), "half way: Int of half of 200, 25 and 255"},
+      {0.9999, 199u | (24u << 8) | (254u << 16), "the highest: red at most 199, green 24, blue 254"},
+  };
+  for (const auto& row : rows) {
+    EXPECT_EQ(DerivativeScan::PenColour([&row] { return row.draw; }), row.colour) << row.why;
+  }
+  std::vector<double> draws = {0.1, 0.2, 0.3};
+  std::size_t next = 0;
+  EXPECT_EQ(DerivativeScan::PenColour([&] { return draws[next++]; }), 20u | (5u << 8) | (76u << 16))
+      << "red, green and blue drawn in that order";
+}
+
 }  // namespace
 }  // namespace velmora::tools

@@ -39,7 +39,8 @@ FrmAnalizaNew::FrmAnalizaNew(QWidget* owner, ToolServices services)
     : QWidget(owner, Qt::Window),
       services_(std::move(services)),
       engine_(expr::MakeFormulaControl()),
-      tool_(std::make_unique<tools::CriticalPoints>(*engine_, *services_.messages)) {
+      tool_(std::make_unique<tools::CriticalPoints>(*engine_, *services_.messages)),
+      scan_(std::make_unique<tools::DerivativeScan>(*engine_)) {
   setAttribute(Qt::WA_DeleteOnClose);
   setWindowTitle(QStringLiteral("Critical Points"));
   setObjectName(QStringLiteral("frmAnalizaNew"));
@@ -121,6 +122,7 @@ void FrmAnalizaNew::Calculate() {
   tool_->minText = ToStdString(txtMin_->text());
   tool_->maxText = ToStdString(txtMax_->text());
   tool_->increaseAccuracy = check1_->isChecked();
+  tool_->window = graph;
   tool_->SetLog(FromDisplay(txtRoot_->toPlainText()));
   running_ = true;
   stop_ = false;
@@ -143,7 +145,31 @@ void FrmAnalizaNew::Calculate() {
   if (done) {
     txtRoot_->setPlainText(ToDisplay(tool_->Log()));
     txtRoot_->moveCursor(QTextCursor::End);
+    if (graph != nullptr) {
+      DrawScan(*graph, expr::TextToNumber(tool_->minText), expr::TextToNumber(tool_->maxText));
+    }
   }
+}
+
+bool FrmAnalizaNew::DrawScan(graph::GraphToolTarget& graph, double xmin, double xmax) {
+  if (running_ || graph.IsDrawing()) return false;
+  running_ = true;
+  stop_ = false;
+  calculate_->setEnabled(false);
+  pb1_->setValue(0);
+  pb1_->show();
+  const bool done = scan_->Run(tool_->Formula(), xmin, xmax, graph.ZoomFactor(),
+                               cmbKoren_->currentIndex() + 1, [this](int percent) {
+                                 pb1_->setValue(percent);
+                                 QApplication::processEvents();
+                                 return !stop_;
+                               });
+  pb1_->hide();
+  calculate_->setEnabled(true);
+  running_ = false;
+  if (!done) return false;
+  std::uniform_real_distribution<double> unit(0.0, 1.0);
+  return graph.DrawCurve(scan_->Curve(), tools::DerivativeScan::PenColour([&] { return unit(pen_); }));
 }
 
 void FrmAnalizaNew::keyPressEvent(QKeyEvent* event) {

@@ -1,11 +1,13 @@
 #pragma once
 
 #include <memory>
+#include <random>
 
 #include <QWidget>
 
 #include "expr/formulacontrol.h"
 #include "tools/criticalpoints.h"
+#include "tools/derivativescan.h"
 #include "tools/qt/toolservices.h"
 
 class QCheckBox;
@@ -20,7 +22,9 @@ namespace velmora::tools_qt {
 
 // The Critical Points window (`frmAnalizaNew`) over tools::CriticalPoints.
 // A run shows its progress bar and keeps the window answering; Cancel,
-// Escape, closing the window and a key or click in the log stop it.
+// Escape, closing the window and a key or click in the log stop it. After
+// the search the graph window draws the scan of the derivative
+// (tools::DerivativeScan) over the range, upside down, in a random pen.
 class FrmAnalizaNew final : public QWidget {
   Q_OBJECT
 
@@ -32,6 +36,7 @@ class FrmAnalizaNew final : public QWidget {
   static FrmAnalizaNew* Open(QWidget* owner, const ToolServices& services);
 
   tools::CriticalPoints& Logic() { return *tool_; }
+  const tools::DerivativeScan& Scan() const { return *scan_; }
   // The controls, for tests.
   QLabel* TxtFormula() const { return txtformula_; }
   QLineEdit* TxtMin() const { return txtMin_; }
@@ -42,6 +47,10 @@ class FrmAnalizaNew final : public QWidget {
   bool StopRequested() const { return stop_; }
 
   void Calculate();
+  // `CrtajFJUKrit`: the scan over the range, drawn in the active graph
+  // window, with this window's progress bar. False when stopped or when the
+  // window is drawing.
+  bool DrawScan(graph::GraphToolTarget& graph, double xmin, double xmax);
 
  protected:
   void keyPressEvent(QKeyEvent* event) override;
@@ -52,6 +61,8 @@ class FrmAnalizaNew final : public QWidget {
   ToolServices services_;
   std::unique_ptr<expr::FormulaControl> engine_;
   std::unique_ptr<tools::CriticalPoints> tool_;
+  std::unique_ptr<tools::DerivativeScan> scan_;
+  std::minstd_rand pen_{std::random_device{}()};
   QLabel* txtformula_ = nullptr;
   QLineEdit* txtMin_ = nullptr;
   QLineEdit* txtMax_ = nullptr;

@@ -5,6 +5,8 @@
 #include <QClipboard>
 #include <QComboBox>
 #include <QContextMenuEvent>
+#include <QDir>
+#include <QFileInfo>
 #include <QGridLayout>
 #include <QGuiApplication>
 #include <QHBoxLayout>
@@ -21,12 +23,40 @@
 #include <QVBoxLayout>
 
 #include "base/asciicase.h"
+#include "graph/qt/frmzoom2.h"
+#include "mathpad/qt/frm2text.h"
 #include "platform/qt/qtstring.h"
+#include "platform/shellopen.h"
 
 namespace velmora::tools_qt {
 
 using qtplatform::ToQString;
 using qtplatform::ToStdString;
+
+// The frame's tool windows as the "Mode" popup of this window sees them: the
+// Evaluator it writes into is this window, whatever the frame holds; the
+// rest goes to the frame.
+class FrmTast::SelfTools final : public platform::ToolWindows {
+ public:
+  SelfTools(FrmTast& window, platform::ToolWindows* frame) : window_(window), frame_(frame) {}
+
+  bool Has(platform::ToolWindow window) const override {
+    return window == platform::ToolWindow::Evaluator || (frame_ != nullptr && frame_->Has(window));
+  }
+  void Show(platform::ToolWindow window) override {
+    if (window == platform::ToolWindow::Evaluator) return;
+    if (frame_ != nullptr) frame_->Show(window);
+  }
+  void ShowGraphMode() override {
+    if (frame_ != nullptr) frame_->ShowGraphMode();
+  }
+  platform::MathPadTarget* MathPad() override { return frame_ != nullptr ? frame_->MathPad() : nullptr; }
+  platform::EvaluatorTarget* Evaluator(bool /*create*/) override { return &window_; }
+
+ private:
+  FrmTast& window_;
+  platform::ToolWindows* frame_;
+};
 
 FrmTast::FrmTast(QWidget* owner, ToolServices services)
     : QWidget(owner, Qt::Window),
@@ -80,9 +110,7 @@ FrmTast::FrmTast(QWidget* owner, ToolServices services)
 
   evaluate_ = new QPushButton(QStringLiteral("Evaluate"), this);
   auto* replace = new QPushButton(QStringLiteral("Replace"), this);
-  auto* more = new QPushButton(QStringLiteral("More..."), this);
-  // "More..." shows the side panel, which this version does not have.
-  more->setEnabled(false);
+  more_ = new QPushButton(QStringLiteral("More..."), this);
   auto* cancel = new QPushButton(QStringLiteral("Cancel"), this);
 
   auto* grid = new QGridLayout;
@@ -100,7 +128,7 @@ FrmTast::FrmTast(QWidget* owner, ToolServices services)
   auto* buttons = new QHBoxLayout;
   buttons->addWidget(evaluate_);
   buttons->addWidget(replace);
-  buttons->addWidget(more);
+  buttons->addWidget(more_);
   buttons->addStretch();
   buttons->addWidget(cancel);
   auto* layout = new QVBoxLayout(this);
@@ -110,6 +138,7 @@ FrmTast::FrmTast(QWidget* owner, ToolServices services)
 
   connect(evaluate_, &QPushButton::clicked, this, &FrmTast::Evaluate);
   connect(replace, &QPushButton::clicked, this, &FrmTast::Replace);
+  connect(more_, &QPushButton::clicked, this, [this] { SetPanelShown(!PanelShown()); });
   connect(cancel, &QPushButton::clicked, this, &QWidget::close);
   OnEnter(text1_, this, [this] { Evaluate(); });
   connect(text2_, &QLineEdit::returnPressed, this, &FrmTast::Evaluate);
@@ -131,12 +160,20 @@ FrmTast::FrmTast(QWidget* owner, ToolServices services)
     text1_->setEditText(QString());
   }
   BuildEvalMenu();
+  // The result label pops up the constants and the conversions of the
+  // result; both write back into this window's expression box.
+  selfTools_ = std::make_unique<SelfTools>(*this, services_.tools);
+  modeMenu_ = graph_qt::FrmZoom2::ModeMenu(this, *selfTools_, *services_.messages,
+                                           [this] { return ToStdString(result_->text()); });
+  result_->setContextMenuPolicy(Qt::CustomContextMenu);
+  connect(result_, &QWidget::customContextMenuRequested, this,
+          [this](const QPoint& at) { modeMenu_->popup(result_->mapToGlobal(at)); });
   resize(620, 420);
 }
 
 FrmTast::~FrmTast() = default;
 
-void FrmTast::WriteText(const std::string& text) { text1_->setEditText(ToQString(text)); }
+void FrmTast::WriteText(const std::string& text) { text1_->lineEdit()->insert(ToQString(text)); }
 
 void FrmTast::Evaluate() {
   tool_->expression = ToStdString(text1_->currentText());
@@ -217,10 +254,12 @@ void FrmTast::BuildEvalMenu() {
   evalMenu_->addAction(QStringLiteral("P&aste Expression"), this,
                        [this] { text1_->setEditText(QGuiApplication::clipboard()->text()); });
   evalMenu_->addSeparator();
-  // The side panel is another window's, not yet in this version.
-  evalMenu_->addAction(QStringLiteral("&Show Panel"))->setEnabled(false);
-  evalMenu_->addAction(QStringLiteral("&Help"))->setEnabled(false);
-  evalMenu_->addAction(QStringLiteral("&Close"), this, &QWidget::close);
+  panelEntry_ = evalMenu_->addAction(ToQString(panelMenu_.Caption()), this, &FrmTast::PanelMenuClicked);
+  panelEntry_->setObjectName(QStringLiteral("mnupanelev"));
+  helpEntry_ = evalMenu_->addAction(QStringLiteral("&Help"), this, &FrmTast::OpenHelp);
+  helpEntry_->setObjectName(QStringLiteral("mnuhev"));
+  evalMenu_->addAction(QStringLiteral("&Close"), this, &QWidget::close)
+      ->setObjectName(QStringLiteral("mnuexev"));
   connect(evalMenu_, &QMenu::aboutToShow, this, &FrmTast::RefreshEvalMenu);
 }
 
@@ -228,6 +267,49 @@ void FrmTast::RefreshEvalMenu() {
   for (QAction* action : evalMenu_->actions()) {
     if (!action->data().isValid()) continue;
     action->setEnabled(services_.Has(static_cast<platform::ToolWindow>(action->data().toInt())));
+  }
+  panelEntry_->setText(ToQString(panelMenu_.Caption()));
+  helpEntry_->setEnabled(services_.shell != nullptr && !services_.helpFile.isEmpty() &&
+                         QFileInfo::exists(services_.helpFile));
+}
+
+bool FrmTast::PanelShown() const {
+  const mathpad_qt::Frm2Text* panel = panel_.data();
+  return panel != nullptr && panel->isVisible();
+}
+
+void FrmTast::SetPanelShown(bool shown) {
+  if (shown) {
+    if (panel_ == nullptr) {
+      // A window of its own beside this one, which goes with this window.
+      panel_ = new mathpad_qt::Frm2Text(this, *services_.messages, services_.tools);
+      connect(panel_, &mathpad_qt::Frm2Text::closedByItself, this, &FrmTast::PanelClosedByItself);
+    }
+    panel_->PlaceBeside(*this);
+    panel_->show();
+    panel_->raise();
+  } else if (panel_ != nullptr) {
+    panel_->hide();
+  }
+}
+
+void FrmTast::PanelMenuClicked() {
+  SetPanelShown(panelMenu_.Click());
+  panelEntry_->setText(ToQString(panelMenu_.Caption()));
+}
+
+void FrmTast::PanelClosedByItself() {
+  panelMenu_.PanelClosed();
+  panelEntry_->setText(ToQString(panelMenu_.Caption()));
+}
+
+void FrmTast::OpenHelp() {
+  if (services_.shell == nullptr || services_.helpFile.isEmpty()) return;
+  const platform::ShellResult result = platform::ShellOpen(*services_.shell, ToStdString(services_.helpFile));
+  if (!result.ok) {
+    services_.messages->Show(
+        result.description + "\r\n" + ToStdString(QDir::toNativeSeparators(services_.helpFile)), "Velmora",
+        platform::MsgIcon::Exclamation);
   }
 }
 

@@ -25,6 +25,9 @@ struct ToolServices {
   platform::ToolWindows* tools = nullptr;    // null: the popup entries stay disabled
   // The active graph window, or null when none is open.
   std::function<graph::GraphToolTarget*()> activeGraph;
+  // The help file's full path; empty or missing: the help entries stay
+  // disabled.
+  QString helpFile;
 
   graph::GraphToolTarget* ActiveGraph() const { return activeGraph ? activeGraph() : nullptr; }
   bool Has(platform::ToolWindow window) const { return tools != nullptr && tools->Has(window); }

@@ -161,7 +161,7 @@ TEST(FrmTast, TheEvalPopupEnablesOnlyWindowsThatExist) {
   };
   ASSERT_NE(entry("Ma&thPad"), nullptr);
   EXPECT_FALSE(entry("Ma&thPad")->isEnabled());
-  EXPECT_FALSE(entry("&Show Panel")->isEnabled());
+  EXPECT_TRUE(entry("&Show Panel")->isEnabled()) << "the panel is this window's own";
   EXPECT_TRUE(entry("Copy &Result")->isEnabled());
   f.tools.withPad = true;
   emit w.EvalMenu()->aboutToShow();
@@ -363,6 +363,26 @@ TEST(FrmAnalizaNew, ListsTheExtremaOfTheActiveFunction) {
   EXPECT_EQ(w->TxtRoot()->toPlainText(), "\nRange: (-3; 3)\nFunction: y = x^2\nMin: Y = 0 ; X = 0\n\n");
   EXPECT_TRUE(w->Pb1()->isHidden());
   delete w;
+}
+
+TEST(FrmAnalizaNew, TheGraphWindowGetsTheFunctionBackAndTheScanCurve) {
+  Fixture f;
+  f.graph.y = "X^2";
+  f.graph.zoom = 10;
+  FrmAnalizaNew w(nullptr, f.Services());
+  w.TxtMin()->setText("-1");
+  w.TxtMax()->setText("1");
+  w.Calculate();
+  EXPECT_EQ(f.graph.y, "x^2") << "the function as searched, in txtY";
+  ASSERT_EQ(f.graph.curves.size(), 1u) << "the scan drawn in the graph window";
+  EXPECT_EQ(f.graph.curves[0].points.size(), 21u) << "one sample a pixel column at 10 a unit";
+  EXPECT_NEAR(f.graph.curves[0].points.back().y, -2, 1e-6) << "the derivative upside down";
+  EXPECT_EQ(w.Scan().Rising(), (std::vector<std::string>{"0", "0.1"}));
+  EXPECT_TRUE(w.Pb1()->isHidden());
+  EXPECT_TRUE(f.graph.requests.empty()) << "no function drawn or remembered";
+  f.graph.drawing = true;
+  EXPECT_FALSE(w.DrawScan(f.graph, -1, 1)) << "not during the window's own draw";
+  EXPECT_EQ(f.graph.curves.size(), 1u);
 }
 
 TEST(FrmAnalizaNew, EscapeDuringARunStopsIt) {
