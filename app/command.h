@@ -64,6 +64,7 @@ enum class Command {
   ToolIntegrate,
   ToolCriticalPoints,
   ToolZeros,
+  ToolZerosCartesian,  // the toolbar's "Newton": refuses a function that is not Cartesian
   ToolIntersection,
   ToolLabel,
   ToolValueTables,

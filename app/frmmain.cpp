@@ -142,6 +142,18 @@ void FrmMain::Run(Command command) {
     case Command::ToolIntegrate: tools_->Show(platform::ToolWindow::Integrate); break;
     case Command::ToolCriticalPoints: tools_->Show(platform::ToolWindow::CriticalPoints); break;
     case Command::ToolZeros: tools_->Show(platform::ToolWindow::Zeros); break;
+    case Command::ToolZerosCartesian:
+      // The button, unlike the menu entry, looks at the active window first:
+      // its Newton search serves Y(X) only.
+      if (const graph_qt::FrmFunc* active = ActiveGraphWindow();
+          active != nullptr && active->Logic().Boxes().optFunkcije() != graph::kCartesian) {
+        services_.messages->Show("Available for Cartesian functions only.",
+                                 std::string(graph::GraphWindow::kDefaultTitle),
+                                 platform::MsgIcon::Exclamation);
+        break;
+      }
+      tools_->Show(platform::ToolWindow::Zeros);
+      break;
     case Command::ToolIntersection: tools_->Show(platform::ToolWindow::Intersection); break;
     case Command::ToolValueTables: tools_->Show(platform::ToolWindow::ValueTables); break;
     case Command::ToolComplex: tools_->Show(platform::ToolWindow::Complex); break;

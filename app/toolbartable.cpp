@@ -89,7 +89,7 @@ constexpr std::array kToolbar3{
 };
 
 constexpr std::array kToolbar4{
-    ToolButton{"Newton", "Zeros", "Find zeros", C::ToolZeros, E::Always, kNewtonMenu},
+    ToolButton{"Newton", "Zeros", "Find zeros", C::ToolZerosCartesian, E::Always, kNewtonMenu},
     ToolButton{"Analiza", "Critical", "Find critical points", C::ToolCriticalPoints, E::NeedsWindow},
     ToolButton{"Integral", "Integrate", "Integrate", C::ToolIntegrate, E::Always},
     ToolButton{"Tabela", "Tables", "Value tables", C::ToolValueTables, E::Always},

@@ -29,7 +29,10 @@ const std::vector<Command>& Commands() {
        "normalise cleanup|evalform|trial|zagrade|shortforms|tangent|zamenisve|tooltext: one chain, "
        "one line each",
        RunNormalise},
-      {"geo", "geo FIGURE CASE VALUES... [--yes|--no]: one solver of the Geometry Calculator", RunGeo},
+      {"geo",
+       "geo FIGURE CASE VALUES... [--yes|--no] [--jpeg FILE] [--bmp FILE] [--pdf FILE]: one solver of the "
+       "Geometry Calculator, its figure saved",
+       RunGeo},
       {"convert",
        "convert angles|areas|lengths FROM TO VALUE, or convert degrees DEG MIN SEC: units converter",
        RunConvert},

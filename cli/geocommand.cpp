@@ -4,6 +4,8 @@
 #include <ostream>
 #include <string_view>
 
+#include "cli/geopicture.h"
+#include "cli/pictureoptions.h"
 #include "cli/streammessagebox.h"
 #include "geometry/boxrecord.h"
 #include "geometry/catalogue.h"
@@ -15,6 +17,15 @@
 namespace velmora::cli {
 namespace {
 
+constexpr const char* kGeoUsage =
+    "usage: velmora-cli geo FIGURE CASE VALUES... [--yes|--no]\n"
+    "         [--jpeg FILE [--quality Q]] [--bmp FILE] [--pdf FILE]\n"
+    "         [--width W] [--height H] [--shade] [--settings FILE]\n";
+
+bool ParseSize(const std::string& text, int& value) {
+  const auto [end, code] = std::from_chars(text.data(), text.data() + text.size(), value);
+  return code == std::errc() && end == text.data() + text.size() && value >= 1 && value <= 10000;
+}
 
 void PrintBoxes(const geometry::BoxRecord& boxes, std::ostream& out) {
   for (std::size_t i = 0; i < boxes.Size(); ++i) out << boxes.NameAt(i) << '=' << boxes.TextAt(i) << '\n';
@@ -50,17 +61,39 @@ bool KnownFigure(std::string_view word) {
 int RunGeo(const std::vector<std::string>& args, std::istream&, std::ostream& out, std::ostream& err) {
   bool yes = false;
   std::vector<std::string> words;
-  for (const auto& a : args) {
+  GeoPicture picture;
+  for (std::size_t i = 0; i < args.size(); ++i) {
+    std::string pictureError;
+    switch (ReadPictureOption(args, i, picture.outputs, pictureError)) {
+      case OptionRead::Read: continue;
+      case OptionRead::Error: err << "velmora-cli geo: " << pictureError << '\n'; return 2;
+      case OptionRead::NotMine: break;
+    }
+    const std::string& a = args[i];
     if (a == "--yes") {
       yes = true;
     } else if (a == "--no") {
       yes = false;
+    } else if (a == "--shade") {
+      picture.shade = true;
+    } else if (a == "--width" || a == "--height" || a == "--settings") {
+      if (i + 1 >= args.size()) {
+        err << "velmora-cli geo: " << a << " needs a value\n";
+        return 2;
+      }
+      const std::string& v = args[++i];
+      if (a == "--settings") {
+        picture.settings = v;
+      } else if (!ParseSize(v, a == "--width" ? picture.width : picture.height)) {
+        err << "velmora-cli geo: " << a << " must be a whole number from 1 to 10000\n";
+        return 2;
+      }
     } else {
       words.push_back(a);
     }
   }
   if (words.size() < 2) {
-    err << "usage: velmora-cli geo FIGURE CASE VALUES... [--yes|--no]\n";
+    err << kGeoUsage;
     ListFigures(err);
     return 2;
   }
@@ -92,8 +125,22 @@ int RunGeo(const std::vector<std::string>& args, std::istream&, std::ostream& ou
   for (const auto& line : figure.result) out << "result=" << line << '\n';
   if (!figure.label.empty()) out << "figure: " << figure.label << '\n';
   if (!figure.note.empty()) out << "note: " << figure.note << '\n';
+  if (picture.outputs.Any()) {
+    std::string error;
+    if (!SaveGeoPictures(word, figure, picture, error)) {
+      err << "velmora-cli geo: " << error << '\n';
+      return 1;
+    }
+  }
   return 0;
 }
+
+#ifndef VELMORA_HAVE_QT_SURFACE
+bool SaveGeoPictures(std::string_view, const geometry::Figure&, const GeoPicture&, std::string& error) {
+  error = "pictures need a build with Qt (VELMORA_GUI=ON); this one draws nothing";
+  return false;
+}
+#endif
 
 int RunConvert(const std::vector<std::string>& args, std::istream&, std::ostream& out, std::ostream& err) {
   if (args.size() != 4) {

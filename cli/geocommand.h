@@ -9,7 +9,11 @@ namespace velmora::cli {
 // velmora-cli geo FIGURE CASE VALUES... [--yes|--no]: one solver of the
 // Geometry Calculator. Prints the messages as they come ("message: ",
 // "question: "), then each box of the page as name=text and the result line
-// of rtG as result=text, one such line per line of the box.
+// of rtG as result=text, one such line per line of the box. With
+// --jpeg FILE [--quality Q], --bmp FILE or --pdf FILE the figure the
+// calculator draws from the solved record (--width, --height, --shade)
+// is saved too; the PDF takes its margins from "Print" in the settings
+// (--settings FILE names another file).
 int RunGeo(const std::vector<std::string>& args, std::istream& in, std::ostream& out, std::ostream& err);
 
 // velmora-cli convert PAGE FROM TO VALUE: the units converter; PAGE is

@@ -40,6 +40,7 @@ namespace velmora::graph_qt {
 class FrmGridOpt;
 class FrmLabel;
 class FrmMini;
+class LabelPanel;
 class FrmUnesit;
 class PDrawView;
 class PicMcrBox;
@@ -159,6 +160,19 @@ class FrmFunc : public QWidget, private graph::GraphHost {
   void daLabele();
   void neLabel();
   PicMcrBox* picMCRBox();
+  // The label panel inside the window (`frkur`), the dialog's twin: opened
+  // with the refusal and the default text of `mnulabel` (null when refused),
+  // its buttons run the four commands below.
+  LabelPanel* ShowLabelPanel();
+  LabelPanel* frkur();
+  // "Font" and the colour button: the font and colour dialogs for the label.
+  void cmdFontL();
+  void cmdBojaL();
+  // "OK": an empty text shows "Enter Graph Label text." and the panel stays;
+  // else the label is in hand over the plot and the panel closes.
+  void cmdLabelL();
+  // "Cancel": the panel closes, nothing is drawn.
+  void cmdTextCancelL();
   // "&Save History...": "Open function history in MathPad?"; yes appends
   // the history to MathPad's document. Needs MathPad.
   void mnusaveHistory();
@@ -257,6 +271,7 @@ class FrmFunc : public QWidget, private graph::GraphHost {
   QLabel* LblChart_ = nullptr;
   QTimer* settle_ = nullptr;
   PicMcrBox* picMCRBox_ = nullptr;
+  LabelPanel* frkur_ = nullptr;
 
   std::optional<std::int64_t> lastScreenUpdateMs_;  // none: the next sample repaints
   int screenUpdates_ = 0;

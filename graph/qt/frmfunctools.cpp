@@ -5,8 +5,10 @@
 #include <QDate>
 #include <QGuiApplication>
 #include <QHeaderView>
+#include <QLineEdit>
 #include <QMenu>
 #include <QPlainTextEdit>
+#include <QPushButton>
 #include <QTableWidget>
 
 #include "graph/graphwindow.h"
@@ -15,6 +17,7 @@
 #include "graph/qt/frmmini.h"
 #include "graph/qt/frmunesit.h"
 #include "graph/qt/frmzoom2.h"
+#include "graph/qt/labelpanel.h"
 #include "graph/qt/pdrawview.h"
 #include "graph/qt/picmcrbox.h"
 #include "graph/qt/qimagesurface.h"
@@ -116,6 +119,58 @@ FrmLabel* FrmFunc::mnulabel() {
   auto* dialog = new FrmLabel(*logic_, *text, nullptr, nullptr, this);
   connect(dialog, &FrmLabel::Inserted, this, [this] { ShowLabelBox(); });
   return Open(dialog, false);
+}
+
+LabelPanel* FrmFunc::frkur() {
+  if (frkur_ == nullptr) {
+    frkur_ = new LabelPanel(pDraw_);
+    frkur_->hide();
+    if (services_.colours != nullptr) {
+      frkur_->SetColourChooser([this](graph::Colour initial) { return services_.colours->Choose(initial); });
+    }
+    connect(frkur_->cmdFont(), &QPushButton::clicked, this, &FrmFunc::cmdFontL);
+    connect(frkur_->cmdBoja(), &QPushButton::clicked, this, &FrmFunc::cmdBojaL);
+    connect(frkur_->cmdLabel(), &QPushButton::clicked, this, &FrmFunc::cmdLabelL);
+    connect(frkur_->cmdTextCancel(), &QPushButton::clicked, this, &FrmFunc::cmdTextCancelL);
+    connect(frkur_, &LabelPanel::AngleClicked, this, [this] {
+      if (const auto angle = logic_->AskLabelAngle()) frkur_->SetAngle(*angle);
+    });
+  }
+  return frkur_;
+}
+
+LabelPanel* FrmFunc::ShowLabelPanel() {
+  if (logic_->State().Drawing()) return nullptr;
+  TakeBoxes();
+  const auto text = logic_->mnulabel();
+  if (!text) return nullptr;
+  LabelPanel* panel = frkur();
+  panel->Start(*text);
+  panel->adjustSize();
+  panel->move(8, 8);
+  panel->show();
+  panel->raise();
+  panel->Text2()->setFocus();
+  return panel;
+}
+
+void FrmFunc::cmdFontL() {
+  if (frkur_ != nullptr) frkur_->ChooseFont();
+}
+
+void FrmFunc::cmdBojaL() {
+  if (frkur_ != nullptr) frkur_->ChooseColour();
+}
+
+void FrmFunc::cmdLabelL() {
+  if (frkur_ == nullptr || frkur_->isHidden()) return;
+  if (!logic_->cmdLabelL(frkur_->Style())) return;
+  frkur_->hide();
+  ShowLabelBox();
+}
+
+void FrmFunc::cmdTextCancelL() {
+  if (frkur_ != nullptr) frkur_->hide();
 }
 
 void FrmFunc::ShowLabelBox() {

@@ -251,5 +251,18 @@ TEST(ToolbarTable, DropDownKeysAndCommands) {
   EXPECT_EQ(FindToolButton("Calc")->enable, EnableRule::Always);
 }
 
+TEST(ToolbarTable, TheNewtonButtonHasACommandOfItsOwn) {
+  // The button refuses a function that is not Cartesian; the menu entry and
+  // the button's own drop-down entry do not, so they cannot share a command.
+  const ToolButton* newton = FindToolButton("Newton");
+  ASSERT_NE(newton, nullptr);
+  EXPECT_EQ(newton->command, Command::ToolZerosCartesian);
+  EXPECT_EQ(newton->enable, EnableRule::Always);
+  EXPECT_EQ(newton->menu[0].command, Command::ToolZeros);
+  const MenuItem* entry = FindMenuItem("mnuTools", 5);
+  ASSERT_NE(entry, nullptr);
+  EXPECT_EQ(entry->command, Command::ToolZeros);
+}
+
 }  // namespace
 }  // namespace velmora::app

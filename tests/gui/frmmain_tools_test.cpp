@@ -4,7 +4,9 @@
 
 #include <QApplication>
 #include <QComboBox>
+#include <QToolButton>
 
+#include "app/frametoolbars.h"
 #include "app/toolwindowhost.h"
 #include "graph/qt/frmlabel.h"
 #include "graph/qt/frmmini.h"
@@ -71,6 +73,66 @@ TEST(FrmMainTools, APolarFunctionIsRefusedByTangentAndIntegral) {
   EXPECT_EQ(f.messages.Boxes().back().text, "Available for Cartesian functions only.");
   f.frame->Run(Command::DrawIntegralAverage);
   EXPECT_EQ(f.messages.Boxes().back().text, "Available for Cartesian (standard) functions only.");
+}
+
+TEST(FrmMainTools, TheNewtonButtonRefusesAFunctionThatIsNotCartesian) {
+  struct Row {
+    int type;
+    const char* y;
+    bool opens;
+    const char* why;
+  };
+  const Row rows[] = {
+      {graph::kPolar, "1", false, "a polar curve has no zeros of Y(X)"},
+      {graph::kParametric, "SinK", false, "nor has a parametric pair"},
+      {graph::kCartesian, "X^2-1", true, "a Cartesian function goes to the Zeros window"},
+  };
+  for (const Row& row : rows) {
+    FrameFixture f;
+    f.Start();
+    Drawn(f, row.type, row.y);
+    f.messages.Clear();
+    f.frame->Bars().Button(QStringLiteral("Newton"))->click();
+    QApplication::processEvents();
+    EXPECT_EQ(f.frame->Tools().Window(platform::ToolWindow::Zeros) != nullptr, row.opens) << row.why;
+    if (row.opens) {
+      EXPECT_TRUE(f.messages.Boxes().empty()) << row.why;
+    } else {
+      ASSERT_EQ(f.messages.Boxes().size(), 1u) << row.why;
+      EXPECT_EQ(f.messages.Boxes()[0].text, "Available for Cartesian functions only.") << row.why;
+    }
+  }
+}
+
+TEST(FrmMainTools, TheZerosMenuEntryAndTheButtonsMenuDoNotRefuse) {
+  // Only the button itself looks at the function type; Tools > Find Zeros
+  // and the button's own drop-down entry open the window for any type.
+  for (const bool fromMenu : {true, false}) {
+    FrameFixture f;
+    f.Start();
+    Drawn(f, graph::kPolar, "1");
+    f.messages.Clear();
+    if (fromMenu) {
+      f.Trigger("mnuTools", 5);
+    } else {
+      f.frame->Bars().MenuEntry(QStringLiteral("newt1"))->trigger();
+    }
+    QApplication::processEvents();
+    EXPECT_TRUE(f.messages.Boxes().empty()) << fromMenu;
+    EXPECT_NE(f.frame->Tools().Window(platform::ToolWindow::Zeros), nullptr) << fromMenu;
+  }
+}
+
+TEST(FrmMainTools, WithNoWindowTheNewtonButtonOpensTheZerosWindow) {
+  FrameFixture f;
+  f.Start();
+  f.frame->Run(Command::Close);
+  QApplication::processEvents();
+  ASSERT_EQ(f.frame->ActiveGraphWindow(), nullptr);
+  f.messages.Clear();
+  f.frame->Run(Command::ToolZerosCartesian);
+  EXPECT_TRUE(f.messages.Boxes().empty());
+  EXPECT_NE(f.frame->Tools().Window(platform::ToolWindow::Zeros), nullptr);
 }
 
 }  // namespace
