@@ -127,6 +127,8 @@ class FrmMatrice final : public QMainWindow {
   void PrecisionEdited();
   bool WriteAtomically(const std::string& path, const std::string& bytes);
   void ShowSwapTab(const char* caption, const QString& status);
+  bool OnMatrixA();
+  void TakeOptions();
 
   FrmMatriceServices services_;
   std::unique_ptr<RelayMessageBox> relay_;
