@@ -141,6 +141,20 @@ void FrmMatrice::ShowSwapTab(const char* caption, const QString& status) {
   SetStatus(status);
 }
 
+// Asks for two lines of `count` until the answer can be checked (a text
+// that is no whole number asks again); nothing when the user cancels or a
+// line is out of range.
+std::optional<matrix::LinePair> FrmMatrice::AskLinePair(const LineDialogCaptions& captions, int count) {
+  for (;;) {
+    const auto texts = services_.lines->Ask(captions);
+    if (!texts) return std::nullopt;
+    const auto pair = matrix::CheckLinePair(texts->first, texts->second, count, *relay_);
+    if (!pair) continue;
+    if (pair->first < 0) return std::nullopt;
+    return pair;
+  }
+}
+
 void FrmMatrice::SwapLines(bool column) {
   const int tab = ActiveTab();
   if (tab != MatrixCalculator::kTabA && tab != MatrixCalculator::kTabB) {
@@ -154,28 +168,21 @@ void FrmMatrice::SwapLines(bool column) {
   const LineDialogCaptions captions =
       column ? LineDialogCaptions{"Swap Columns", size, "Swap column:", "with the column:"}
              : LineDialogCaptions{"Swap Rows", size, "Swap row:", "with the row:"};
-  for (;;) {
-    const auto texts = services_.lines->Ask(captions);
-    if (!texts) return;
-    const auto pair =
-        matrix::CheckLinePair(texts->first, texts->second, column ? grid.Cols() : grid.Rows(), *relay_);
-    if (!pair) continue;
-    if (pair->first < 0) return;
-    try {
-      if (column) {
-        matrix::SwapColumnsGrid(grid, pair->first, pair->second, calc_.grdSwap);
-      } else {
-        matrix::SwapRowsGrid(grid, pair->first, pair->second, calc_.grdSwap);
-      }
-    } catch (const expr::Fault& fault) {
-      relay_->Show(fault.what(), captions.title, MsgIcon::Critical, platform::MsgButtons::Ok);
-      return;
+  const auto pair = AskLinePair(captions, column ? grid.Cols() : grid.Rows());
+  if (!pair) return;
+  try {
+    if (column) {
+      matrix::SwapColumnsGrid(grid, pair->first, pair->second, calc_.grdSwap);
+    } else {
+      matrix::SwapRowsGrid(grid, pair->first, pair->second, calc_.grdSwap);
     }
-    ShowSwapTab("Swap", QStringLiteral("Matrix %1: Swap %2")
-                            .arg(QString::fromUtf8(kTabNames[tab]),
-                                 column ? QStringLiteral("columns") : QStringLiteral("rows")));
+  } catch (const expr::Fault& fault) {
+    relay_->Show(fault.what(), captions.title, MsgIcon::Critical, platform::MsgButtons::Ok);
     return;
   }
+  ShowSwapTab("Swap", QStringLiteral("Matrix %1: Swap %2")
+                          .arg(QString::fromUtf8(kTabNames[tab]),
+                               column ? QStringLiteral("columns") : QStringLiteral("rows")));
 }
 
 void FrmMatrice::SwapMatrixes(int first, int second) {
@@ -272,18 +279,11 @@ void FrmMatrice::SubmitLine(bool column) {
   const LineDialogCaptions captions =
       column ? LineDialogCaptions{"Submit column", size, "Submit column", "to the column"}
              : LineDialogCaptions{"Submit row", size, "Submit row", "to the row"};
-  for (;;) {
-    const auto texts = services_.lines->Ask(captions);
-    if (!texts) return;
-    const auto pair =
-        matrix::CheckLinePair(texts->first, texts->second, column ? grid.Cols() : grid.Rows(), *relay_);
-    if (!pair) continue;
-    if (pair->first < 0) return;
-    TakeOptions();
-    calc_.SubmitLine(column, pair->first, pair->second);
-    RefreshGrids();
-    return;
-  }
+  const auto pair = AskLinePair(captions, column ? grid.Cols() : grid.Rows());
+  if (!pair) return;
+  TakeOptions();
+  calc_.SubmitLine(column, pair->first, pair->second);
+  RefreshGrids();
 }
 
 }  // namespace velmora::matrix_qt
