@@ -17,13 +17,12 @@
 
 #include <QApplication>
 #include <QComboBox>
-#include <QDir>
 #include <QElapsedTimer>
-#include <QFile>
 #include <QKeyEvent>
 #include <QLineEdit>
 #include <QTemporaryDir>
 
+#include "bench/offscreenhome.h"
 #include "graph/examplecatalogue.h"
 #include "graph/graphwindow.h"
 #include "graph/historylog.h"
@@ -179,14 +178,8 @@ void Survey(const std::vector<Function>& functions) {
 }  // namespace
 
 int main(int argc, char** argv) {
-  if (qEnvironmentVariableIsEmpty("QT_QPA_PLATFORM")) qputenv("QT_QPA_PLATFORM", "offscreen");
   QTemporaryDir home;
-  for (const char* name : {"XDG_CONFIG_HOME", "XDG_DATA_HOME", "XDG_RUNTIME_DIR"}) {
-    const QString path = home.filePath(QString::fromLatin1(name));
-    QDir().mkpath(path);
-    QFile::setPermissions(path, QFileDevice::ReadOwner | QFileDevice::WriteOwner | QFileDevice::ExeOwner);
-    qputenv(name, path.toLocal8Bit());
-  }
+  velmora::bench::UseOffscreenHome(home);
   QApplication app(argc, argv);
   const std::vector<Function> functions = CatalogueFunctions();
   for (const Function& f : functions) {

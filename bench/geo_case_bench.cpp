@@ -11,12 +11,11 @@
 #include <vector>
 
 #include <QApplication>
-#include <QDir>
-#include <QFile>
 #include <QLineEdit>
 #include <QTabWidget>
 #include <QTemporaryDir>
 
+#include "bench/offscreenhome.h"
 #include "geometry/catalogue.h"
 #include "geometry/qt/figureview.h"
 #include "geometry/qt/frmgeo.h"
@@ -92,14 +91,8 @@ void QuietHandler(QtMsgType type, const QMessageLogContext& context, const QStri
 
 int main(int argc, char** argv) {
   qInstallMessageHandler(&QuietHandler);
-  if (qEnvironmentVariableIsEmpty("QT_QPA_PLATFORM")) qputenv("QT_QPA_PLATFORM", "offscreen");
   QTemporaryDir home;
-  for (const char* name : {"XDG_CONFIG_HOME", "XDG_DATA_HOME", "XDG_RUNTIME_DIR"}) {
-    const QString path = home.filePath(QString::fromLatin1(name));
-    QDir().mkpath(path);
-    QFile::setPermissions(path, QFileDevice::ReadOwner | QFileDevice::WriteOwner | QFileDevice::ExeOwner);
-    qputenv(name, path.toLocal8Bit());
-  }
+  velmora::bench::UseOffscreenHome(home);
   QApplication app(argc, argv);
   for (const Case& c : Cases()) {
     benchmark::RegisterBenchmark(("CaseToFigure/" + c.page + "/" + c.entry).c_str(), BM_CaseToFigure, c)

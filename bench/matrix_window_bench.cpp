@@ -13,11 +13,10 @@
 #include <string>
 
 #include <QApplication>
-#include <QDir>
-#include <QFile>
 #include <QTabWidget>
 #include <QTemporaryDir>
 
+#include "bench/offscreenhome.h"
 #include "complex/complexnumber.h"
 #include "matrix/matrixcalculator.h"
 #include "matrix/mcffile.h"
@@ -119,14 +118,8 @@ BENCHMARK(BM_Reference_LogicOnly)->Unit(benchmark::kMillisecond);
 }  // namespace
 
 int main(int argc, char** argv) {
-  if (qEnvironmentVariableIsEmpty("QT_QPA_PLATFORM")) qputenv("QT_QPA_PLATFORM", "offscreen");
   QTemporaryDir home;
-  for (const char* name : {"XDG_CONFIG_HOME", "XDG_DATA_HOME", "XDG_RUNTIME_DIR"}) {
-    const QString path = home.filePath(QString::fromLatin1(name));
-    QDir().mkpath(path);
-    QFile::setPermissions(path, QFileDevice::ReadOwner | QFileDevice::WriteOwner | QFileDevice::ExeOwner);
-    qputenv(name, path.toLocal8Bit());
-  }
+  velmora::bench::UseOffscreenHome(home);
   QApplication app(argc, argv);
   benchmark::Initialize(&argc, argv);
   benchmark::RunSpecifiedBenchmarks();

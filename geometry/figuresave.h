@@ -7,9 +7,9 @@
 #include "platform/filedialog.h"
 #include "platform/messagebox.h"
 
-// Saving the Geometry Calculator's figure as a picture file, the same
-// routine as a graph window's picture save: the save dialog, the question
-// before a file is replaced, and the message when the file cannot be written.
+// Saving the Geometry Calculator's figure as a picture file through the
+// picture save the graph windows use, with the texts below: the save
+// dialog, the replace question and the message when the file cannot be written.
 namespace velmora::geometry {
 
 inline constexpr std::string_view kFigureSaveTitle = "Save Graph As";

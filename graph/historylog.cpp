@@ -3,31 +3,14 @@
 #include <filesystem>
 #include <fstream>
 
+#include "base/singlebyte.h"
 #include "platform/userfolders.h"
 
 namespace velmora::graph {
 
 std::string HistoryLog::DefaultPath() { return platform::UserDataFolder() + "/Velmora/GraphLog.txt"; }
 
-std::string ToLatin1(std::string_view utf8) {
-  std::string out;
-  out.reserve(utf8.size());
-  for (std::size_t i = 0; i < utf8.size();) {
-    const auto c = static_cast<unsigned char>(utf8[i]);
-    if (c < 0x80) {
-      out += static_cast<char>(c);
-      ++i;
-      continue;
-    }
-    std::size_t length = (c & 0xE0) == 0xC0 ? 2 : (c & 0xF0) == 0xE0 ? 3 : (c & 0xF8) == 0xF0 ? 4 : 1;
-    if (i + length > utf8.size()) length = utf8.size() - i;
-    unsigned code = 0;
-    if (length == 2) code = ((c & 0x1Fu) << 6) | (static_cast<unsigned char>(utf8[i + 1]) & 0x3Fu);
-    out += (length == 2 && code < 0x100) ? static_cast<char>(code) : '?';
-    i += length;
-  }
-  return out;
-}
+std::string ToLatin1(std::string_view utf8) { return base::Utf8ToSingleByte(utf8, 0x80); }
 
 std::string FromLatin1(std::string_view latin1) {
   std::string out;

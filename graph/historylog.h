@@ -32,7 +32,8 @@ class HistoryLog {
   std::string path_;
 };
 
-// The 8-bit form of a UTF-8 text and back.
+// The 8-bit form of a UTF-8 text and back. Latin-1 keeps the C1 controls
+// (U+0080 to U+009F): the log is read back as Latin-1, so they round-trip.
 std::string ToLatin1(std::string_view utf8);
 std::string FromLatin1(std::string_view latin1);
 

@@ -1,10 +1,8 @@
 #include "graph/windowcommands.h"
 
-#include <filesystem>
-#include <system_error>
-
 #include "graph/graphwindow.h"
 #include "graph/settingnumber.h"
+#include "platform/picturesave.h"
 #include "platform/settingskeys.h"
 
 namespace velmora::graph {
@@ -214,21 +212,9 @@ void WindowCommands::SwapYX() {
 
 bool WindowCommands::Sav1(const PictureWriter& write) {
   if (w_.State().Drawing() || files_ == nullptr) return false;
-  const auto chosen = files_->Save(std::string(kSaveTitle), std::string(kSaveFilter), "", "");
-  if (!chosen || chosen->empty()) return false;
-  std::filesystem::path path(*chosen);
-  if (!path.has_extension()) path += ".bmp";
-  const std::string name = path.string();
-  std::error_code error;
-  if (std::filesystem::exists(path, error)) {
-    const auto answer = messages_.Show(name + std::string(kReplaceQuestion), std::string(kReplaceTitle),
-                                       platform::MsgIcon::Exclamation, platform::MsgButtons::YesNo);
-    if (answer != platform::MsgResult::Yes) return false;
-  }
-  if (write(name)) return true;
-  messages_.Show(name + "\r\n" + std::string(kSaveFailed), std::string(kSaveTitle),
-                 platform::MsgIcon::Critical);
-  return false;
+  static constexpr platform::PictureSaveTexts kTexts{kSaveTitle, kSaveFilter, kReplaceTitle, kReplaceQuestion,
+                                                     kSaveFailed};
+  return platform::SavePictureFile(*files_, messages_, kTexts, write);
 }
 
 bool WindowCommands::FrameOnCopies() {

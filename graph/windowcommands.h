@@ -9,6 +9,7 @@
 #include "platform/colordialog.h"
 #include "platform/filedialog.h"
 #include "platform/messagebox.h"
+#include "platform/picturesave.h"
 #include "platform/settingsstore.h"
 
 namespace velmora::graph {
@@ -101,7 +102,7 @@ class WindowCommands {
 
   // ---- Pictures ---------------------------------------------------------------------
   // Writes the picture to a path in bitmap form; false when it could not.
-  using PictureWriter = std::function<bool(const std::string& path)>;
+  using PictureWriter = platform::PictureWriter;
   // Sav1: the save dialog ("Save Graph As"), the question when the file
   // exists, then the picture. A name without an extension gets ".bmp".
   // Returns true when a file was written.

@@ -52,6 +52,47 @@ bool MatrixCalculator::SizeFromText(ComplexMatrix& m, const std::string& name, c
   return true;
 }
 
+bool MatrixCalculator::ReadScalar() {
+  Scalar = complex::ComplexNumber();
+  Scalar.SetRectText(txtEntry2);
+  if (Scalar.ErrNumber() != 0) {
+    Routines.ShowError(13, "Scalar Constant", Scalar.ErrDescription());
+    txtEntry2.clear();
+    return false;
+  }
+  return true;
+}
+
+// Where B is not read from an entry or a grid, it is the one-column matrix F
+// of A's height.
+void MatrixCalculator::MakeColumnB() {
+  MatrixB.Terminate();
+  MatrixB.SetName("Matrix_F");
+  MatrixB.SetNumRows(MatrixA.NumRows());
+  MatrixB.SetNumCollumns(1);
+  MatrixB.Init();
+}
+
+// The result S and the inverse work matrix I, sized from A, then the check
+// that the sizes of A and B suit the operation (with its message when not).
+bool MatrixCalculator::PrepareResults() {
+  MatrixS.SetName("Matrix S");
+  MatrixS.SetIsDisplay(true);
+  MatrixI.Terminate();
+  MatrixI.SetName("Matrix I");
+  MatrixI.SetIsDisplay(false);
+  MatrixI.SetIsInverse(true);
+  MatrixI.SetNumRows(MatrixA.NumRows());
+  MatrixI.SetNumCollumns(MatrixA.NumCollumns());
+  MatrixI.Init();
+  Routines.CheckSizes(MatrixA, MatrixB, Operation);
+  if (Routines.ErrCode != 0) {
+    Routines.ShowError(Routines.ErrCode, Routines.ErrName, Routines.ErrText);
+    return false;
+  }
+  return true;
+}
+
 MatrixCalculator::ContinueFocus MatrixCalculator::Continue(const std::string& entry1,
                                                            const std::string& entry2) {
   Context.Precision = PrecisionAtGo(txtPrecision);
@@ -65,36 +106,11 @@ MatrixCalculator::ContinueFocus MatrixCalculator::Continue(const std::string& en
     case kScalarMultiply:
     case kScalarDivide:
       txtEntry2 = entry2;
-      Scalar = complex::ComplexNumber();
-      Scalar.SetRectText(entry2);
-      if (Scalar.ErrNumber() != 0) {
-        Routines.ShowError(13, "Scalar Constant", Scalar.ErrDescription());
-        txtEntry2.clear();
-        return ContinueFocus::Entry2;
-      }
+      if (!ReadScalar()) return ContinueFocus::Entry2;
       break;
-    default:
-      MatrixB.Terminate();
-      MatrixB.SetName("Matrix_F");
-      MatrixB.SetNumRows(MatrixA.NumRows());
-      MatrixB.SetNumCollumns(1);
-      MatrixB.Init();
-      break;
+    default: MakeColumnB(); break;
   }
-  MatrixS.SetName("Matrix S");
-  MatrixS.SetIsDisplay(true);
-  MatrixI.Terminate();
-  MatrixI.SetName("Matrix I");
-  MatrixI.SetIsDisplay(false);
-  MatrixI.SetIsInverse(true);
-  MatrixI.SetNumRows(MatrixA.NumRows());
-  MatrixI.SetNumCollumns(MatrixA.NumCollumns());
-  MatrixI.Init();
-  Routines.CheckSizes(MatrixA, MatrixB, Operation);
-  if (Routines.ErrCode != 0) {
-    Routines.ShowError(Routines.ErrCode, Routines.ErrName, Routines.ErrText);
-    return ContinueFocus::Entry1;
-  }
+  if (!PrepareResults()) return ContinueFocus::Entry1;
   SizeGrid(MatrixA, grdGrid1);
   if (Operation == kAdd || Operation == kSubtract || Operation == kMultiply || Operation == kSolutionSet)
     SizeGrid(MatrixB, grdGrid2);
@@ -185,37 +201,11 @@ bool MatrixCalculator::EnterValues() {
       break;
     case kScalarMultiply:
     case kScalarDivide:
-      Scalar = complex::ComplexNumber();
-      Scalar.SetRectText(txtEntry2);
-      if (Scalar.ErrNumber() != 0) {
-        Routines.ShowError(13, "Scalar Constant", Scalar.ErrDescription());
-        txtEntry2.clear();
-        return false;
-      }
+      if (!ReadScalar()) return false;
       break;
-    default:
-      MatrixB.Terminate();
-      MatrixB.SetName("Matrix_F");
-      MatrixB.SetNumRows(MatrixA.NumRows());
-      MatrixB.SetNumCollumns(1);
-      MatrixB.Init();
-      break;
+    default: MakeColumnB(); break;
   }
-  MatrixS.SetName("Matrix S");
-  MatrixS.SetIsDisplay(true);
-  MatrixI.Terminate();
-  MatrixI.SetName("Matrix I");
-  MatrixI.SetIsDisplay(false);
-  MatrixI.SetIsInverse(true);
-  MatrixI.SetNumRows(MatrixA.NumRows());
-  MatrixI.SetNumCollumns(MatrixA.NumCollumns());
-  MatrixI.Init();
-  Routines.CheckSizes(MatrixA, MatrixB, Operation);
-  if (Routines.ErrCode != 0) {
-    Routines.ShowError(Routines.ErrCode, Routines.ErrName, Routines.ErrText);
-    return false;
-  }
-  return true;
+  return PrepareResults();
 }
 
 bool MatrixCalculator::ShowResult(const ComplexMatrix& m, Grid& grid) {

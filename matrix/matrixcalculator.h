@@ -88,6 +88,9 @@ class MatrixCalculator {
   bool SizeFromText(ComplexMatrix& m, const std::string& name, const std::string& text);
   bool LineStep(bool column, int index, const std::function<void(std::int32_t)>& compute);
   bool SizeFromGrid(ComplexMatrix& m, const std::string& name, const Grid& grid);
+  bool ReadScalar();
+  void MakeColumnB();
+  bool PrepareResults();
   bool DeterminantInverse(const Grid& grid, ComplexMatrix& m, const std::string& name);
   bool Guarded(const char* title, bool (MatrixCalculator::*step)(int), int tab);
   bool AdjointStep(int tab);

@@ -10,7 +10,9 @@ namespace velmora::rtf {
 // page leaves undefined map to the C1 controls of the same value, as the
 // Windows converters do.
 char32_t FromCp1252(unsigned char byte);
-// The Windows-1252 byte of a code point, or nothing when it has none.
+// The Windows-1252 byte of a code point, or nothing when it has none. Unlike
+// base::Utf8ToSingleByte this maps the whole code page (the euro sign, curly
+// quotes ...), since a \'hh escape carries them and others fall back to \uN.
 std::optional<unsigned char> ToCp1252(char32_t codePoint);
 
 // Appends a code point as UTF-8; surrogates and values beyond U+10FFFF

@@ -3,6 +3,8 @@
 #include <filesystem>
 #include <fstream>
 
+#include "base/singlebyte.h"
+
 namespace velmora::tools {
 namespace {
 
@@ -29,26 +31,7 @@ std::size_t CharacterCount(std::string_view text) {
   return count;
 }
 
-std::string ToWindows1252(std::string_view utf8) {
-  std::string out;
-  out.reserve(utf8.size());
-  for (std::size_t i = 0; i < utf8.size();) {
-    const auto c = static_cast<unsigned char>(utf8[i]);
-    if (c < 0x80) {
-      out += static_cast<char>(c);
-      ++i;
-    } else if ((c & 0xE0) == 0xC0 && i + 1 < utf8.size()) {
-      const unsigned code = ((c & 0x1Fu) << 6) | (static_cast<unsigned char>(utf8[i + 1]) & 0x3Fu);
-      out += code >= 0xA0 && code <= 0xFF ? static_cast<char>(code) : '?';
-      i += 2;
-    } else {
-      out += '?';
-      ++i;
-      while (i < utf8.size() && (static_cast<unsigned char>(utf8[i]) & 0xC0) == 0x80) ++i;
-    }
-  }
-  return out;
-}
+std::string ToWindows1252(std::string_view utf8) { return base::Utf8ToSingleByte(utf8, 0xA0); }
 
 std::string TablePublisher::BuildTableText(const graph::ValueTable& table, const TableHead& head) {
   std::string text;

@@ -58,7 +58,8 @@ class TablePublisher {
 // The number of characters of a UTF-8 text.
 std::size_t CharacterCount(std::string_view text);
 // UTF-8 to Windows-1252 for the characters that page holds (ASCII and the
-// Latin-1 letters); any other character becomes "?".
+// Latin-1 letters); any other character becomes "?", the C1 controls too,
+// as the page's reader takes bytes 0x80 to 0x9F for Windows-1252 characters.
 std::string ToWindows1252(std::string_view utf8);
 
 }  // namespace velmora::tools

@@ -57,6 +57,15 @@ QLabel* MakeLabel(QWidget* parent, const char* name, const QString& text, const 
   return label;
 }
 
+// The grid of a key page: four columns of equal width, tight to the page.
+QGridLayout* KeyGrid(QWidget* page) {
+  auto* grid = new QGridLayout(page);
+  grid->setContentsMargins(0, 0, 0, 0);
+  grid->setSpacing(4);
+  for (int column = 0; column < 4; ++column) grid->setColumnStretch(column, 1);
+  return grid;
+}
+
 QPushButton* MakeKey(QWidget* parent, const QString& name, const QString& caption,
                      const char* role = nullptr) {
   auto* key = new QPushButton(caption, parent);
@@ -215,9 +224,7 @@ void BuildDisplay(QWidget& window, ComplexFace& f) {
 
 QWidget* BuildComplexFunctions(QWidget* parent, ComplexFace& f) {
   auto* page = new QWidget(parent);
-  auto* grid = new QGridLayout(page);
-  grid->setContentsMargins(0, 0, 0, 0);
-  grid->setSpacing(4);
+  auto* grid = KeyGrid(page);
   int slot = 0;
   for (const OperationKey& key : kFunctionKeys) {
     QPushButton* button = MakeKey(page, QString::fromLatin1(key.control), QString::fromUtf8(key.caption));
@@ -229,15 +236,12 @@ QWidget* BuildComplexFunctions(QWidget* parent, ComplexFace& f) {
   f.cmdconv = MakeKey(page, QStringLiteral("cmdconv"), QStringLiteral("Conv"), "wide");
   f.cmdconv->setToolTip(QStringLiteral("Replace, swap or conjugate the operands"));
   grid->addWidget(f.cmdconv, slot / 4, 0, 1, 4);
-  for (int column = 0; column < 4; ++column) grid->setColumnStretch(column, 1);
   return page;
 }
 
 QWidget* BuildRealFunctions(QWidget* parent, ComplexFace& f) {
   auto* page = new QWidget(parent);
-  auto* grid = new QGridLayout(page);
-  grid->setContentsMargins(0, 0, 0, 0);
-  grid->setSpacing(4);
+  auto* grid = KeyGrid(page);
   const char* direct[][2] = {{"cmdsing", "sin"}, {"cmdcosr", "cos"}, {"cmdtanr", "tan"}, {"cmdcotg", "cot"}};
   const char* inverse[][2] = {
       {"cmdasin", "asin"}, {"cmdacos", "acos"}, {"cmdatan", "atan"}, {"cmdacot", "acot"}};
@@ -271,15 +275,12 @@ QWidget* BuildRealFunctions(QWidget* parent, ComplexFace& f) {
   }
   f.Check1->setFocusPolicy(Qt::NoFocus);
   f.Check2->setFocusPolicy(Qt::NoFocus);
-  for (int column = 0; column < 4; ++column) grid->setColumnStretch(column, 1);
   return page;
 }
 
 QWidget* BuildKeypad(QWidget* parent, ComplexFace& f) {
   auto* pad = new QWidget(parent);
-  auto* grid = new QGridLayout(pad);
-  grid->setContentsMargins(0, 0, 0, 0);
-  grid->setSpacing(4);
+  auto* grid = KeyGrid(pad);
   const int rows[3][3] = {{7, 8, 9}, {4, 5, 6}, {1, 2, 3}};
   for (int r = 0; r < 3; ++r) {
     for (int c = 0; c < 3; ++c) {
@@ -308,7 +309,6 @@ QWidget* BuildKeypad(QWidget* parent, ComplexFace& f) {
   f.CancelEntry->setToolTip(QStringLiteral("Clear Last Entry"));
   grid->addWidget(f.CancelEntry, 4, 0);
   grid->addWidget(f.cmdClearAll, 4, 1, 1, 3);
-  for (int column = 0; column < 4; ++column) grid->setColumnStretch(column, 1);
   return pad;
 }
 

@@ -4,13 +4,13 @@
 #include <QColorDialog>
 #include <QFormLayout>
 #include <QGroupBox>
-#include <QHBoxLayout>
 #include <QLabel>
 #include <QLineEdit>
 #include <QPushButton>
 #include <QVBoxLayout>
 
 #include "graph/graphwindow.h"
+#include "graph/qt/dialogbuttons.h"
 #include "graph/qt/qimagesurface.h"
 #include "platform/qt/qtstring.h"
 
@@ -54,25 +54,18 @@ FrmMini::FrmMini(graph::GraphWindow& window, ColourChooser choose, QWidget* pare
   average->addRow(QStringLiteral("Value:"), text3_);
   average->addRow(QStringLiteral("Color:"), shape1_);
   ShowColour(window.Pen().AvBoja());
-  ok_ = new QPushButton(QStringLiteral("OK"), this);
-  ok_->setObjectName(QStringLiteral("Command1"));
-  ok_->setDefault(true);
-  cancel_ = new QPushButton(QStringLiteral("Cancel"), this);
-  cancel_->setObjectName(QStringLiteral("Command2"));
-  auto* buttons = new QHBoxLayout;
-  buttons->addStretch(1);
-  buttons->addWidget(ok_);
-  buttons->addWidget(cancel_);
+  const OkCancelRow keys = MakeOkCancelRow(this);
+  ok_ = keys.ok;
+  cancel_ = keys.cancel;
   auto* layout = new QVBoxLayout(this);
   layout->addWidget(frame1);
   layout->addWidget(check2_);
   layout->addWidget(check1_);
   layout->addWidget(frame2_);
-  layout->addLayout(buttons);
+  layout->addLayout(keys.row);
   connect(check1_, &QCheckBox::toggled, frame2_, &QWidget::setEnabled);
   connect(shape1_, &QPushButton::clicked, this, &FrmMini::ChooseColour);
   connect(ok_, &QPushButton::clicked, this, &FrmMini::Ok);
-  connect(cancel_, &QPushButton::clicked, this, &QDialog::reject);
 }
 
 void FrmMini::ShowColour(graph::Colour colour) {

@@ -11,6 +11,7 @@
 
 #include "expr/numtext.h"
 #include "graph/graphwindow.h"
+#include "graph/qt/dialogbuttons.h"
 #include "platform/qt/qtstring.h"
 
 namespace velmora::graph_qt {
@@ -41,23 +42,16 @@ FrmUnesit::FrmUnesit(graph::GraphWindow& window, platform::MessageBox& messages,
   text1_ = new QLineEdit(this);
   text1_->setObjectName(QStringLiteral("Text1"));
   point->setBuddy(text1_);
-  ok_ = new QPushButton(QStringLiteral("OK"), this);
-  ok_->setObjectName(QStringLiteral("Command1"));
-  ok_->setDefault(true);
-  cancel_ = new QPushButton(QStringLiteral("Cancel"), this);
-  cancel_->setObjectName(QStringLiteral("Command2"));
-  auto* buttons = new QHBoxLayout;
-  buttons->addStretch(1);
-  buttons->addWidget(ok_);
-  buttons->addWidget(cancel_);
+  const OkCancelRow keys = MakeOkCancelRow(this);
+  ok_ = keys.ok;
+  cancel_ = keys.cancel;
   auto* layout = new QVBoxLayout(this);
   layout->addWidget(label1_);
   layout->addWidget(draw);
   layout->addWidget(point);
   layout->addWidget(text1_);
-  layout->addLayout(buttons);
+  layout->addLayout(keys.row);
   connect(ok_, &QPushButton::clicked, this, &FrmUnesit::Ok);
-  connect(cancel_, &QPushButton::clicked, this, &QDialog::reject);
 }
 
 void FrmUnesit::Ok() {

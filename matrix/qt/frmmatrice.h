@@ -5,11 +5,13 @@
 #include <functional>
 #include <map>
 #include <memory>
+#include <optional>
 #include <string>
 #include <vector>
 
 #include <QMainWindow>
 
+#include "matrix/gridedit.h"
 #include "matrix/matrixcalculator.h"
 #include "platform/filedialog.h"
 #include "platform/inputbox.h"
@@ -32,6 +34,7 @@ namespace velmora::matrix_qt {
 
 class GridView;
 class LineDialogs;
+struct LineDialogCaptions;
 class RelayMessageBox;
 
 // What the Matrix Calculator needs from the program. All pointers must
@@ -127,6 +130,9 @@ class FrmMatrice final : public QMainWindow {
   void PrecisionEdited();
   bool WriteAtomically(const std::string& path, const std::string& bytes);
   void ShowSwapTab(const char* caption, const QString& status);
+  bool OnMatrixA();
+  std::optional<matrix::LinePair> AskLinePair(const LineDialogCaptions& captions, int count);
+  void TakeOptions();
 
   FrmMatriceServices services_;
   std::unique_ptr<RelayMessageBox> relay_;

@@ -26,6 +26,11 @@ std::string SizeText(const matrix::Grid& grid) {
   return std::to_string(grid.Rows()) + "x" + std::to_string(grid.Cols());
 }
 
+// The size line of the row and column dialogs.
+std::string DialogSize(const matrix::Grid& grid) {
+  return "Matrix Size: " + std::to_string(grid.Rows()) + " x " + std::to_string(grid.Cols());
+}
+
 }  // namespace
 
 int FrmMatrice::ActiveTab() const { return tabs_->currentIndex(); }
@@ -136,6 +141,20 @@ void FrmMatrice::ShowSwapTab(const char* caption, const QString& status) {
   SetStatus(status);
 }
 
+// Asks for two lines of `count` until the answer can be checked (a text
+// that is no whole number asks again); nothing when the user cancels or a
+// line is out of range.
+std::optional<matrix::LinePair> FrmMatrice::AskLinePair(const LineDialogCaptions& captions, int count) {
+  for (;;) {
+    const auto texts = services_.lines->Ask(captions);
+    if (!texts) return std::nullopt;
+    const auto pair = matrix::CheckLinePair(texts->first, texts->second, count, *relay_);
+    if (!pair) continue;
+    if (pair->first < 0) return std::nullopt;
+    return pair;
+  }
+}
+
 void FrmMatrice::SwapLines(bool column) {
   const int tab = ActiveTab();
   if (tab != MatrixCalculator::kTabA && tab != MatrixCalculator::kTabB) {
@@ -145,33 +164,25 @@ void FrmMatrice::SwapLines(bool column) {
     return;
   }
   const matrix::Grid& grid = ActiveGrid()->Model().Grid();
-  const std::string size =
-      "Matrix Size: " + std::to_string(grid.Rows()) + " x " + std::to_string(grid.Cols());
+  const std::string size = DialogSize(grid);
   const LineDialogCaptions captions =
       column ? LineDialogCaptions{"Swap Columns", size, "Swap column:", "with the column:"}
              : LineDialogCaptions{"Swap Rows", size, "Swap row:", "with the row:"};
-  for (;;) {
-    const auto texts = services_.lines->Ask(captions);
-    if (!texts) return;
-    const auto pair =
-        matrix::CheckLinePair(texts->first, texts->second, column ? grid.Cols() : grid.Rows(), *relay_);
-    if (!pair) continue;
-    if (pair->first < 0) return;
-    try {
-      if (column) {
-        matrix::SwapColumnsGrid(grid, pair->first, pair->second, calc_.grdSwap);
-      } else {
-        matrix::SwapRowsGrid(grid, pair->first, pair->second, calc_.grdSwap);
-      }
-    } catch (const expr::Fault& fault) {
-      relay_->Show(fault.what(), captions.title, MsgIcon::Critical, platform::MsgButtons::Ok);
-      return;
+  const auto pair = AskLinePair(captions, column ? grid.Cols() : grid.Rows());
+  if (!pair) return;
+  try {
+    if (column) {
+      matrix::SwapColumnsGrid(grid, pair->first, pair->second, calc_.grdSwap);
+    } else {
+      matrix::SwapRowsGrid(grid, pair->first, pair->second, calc_.grdSwap);
     }
-    ShowSwapTab("Swap", QStringLiteral("Matrix %1: Swap %2")
-                            .arg(QString::fromUtf8(kTabNames[tab]),
-                                 column ? QStringLiteral("columns") : QStringLiteral("rows")));
+  } catch (const expr::Fault& fault) {
+    relay_->Show(fault.what(), captions.title, MsgIcon::Critical, platform::MsgButtons::Ok);
     return;
   }
+  ShowSwapTab("Swap", QStringLiteral("Matrix %1: Swap %2")
+                          .arg(QString::fromUtf8(kTabNames[tab]),
+                               column ? QStringLiteral("columns") : QStringLiteral("rows")));
 }
 
 void FrmMatrice::SwapMatrixes(int first, int second) {
@@ -201,8 +212,7 @@ void FrmMatrice::Transpose() {
 void FrmMatrice::Adjoint() {
   if (busy_) return;
   const int tab = ActiveTab();
-  calc_.txtPrecision = txtPrecision_->text().toStdString();
-  calc_.chNule = chNule_->isChecked();
+  TakeOptions();
   RunInBackground([tab](MatrixCalculator& c) { return c.Adjoint(tab); },
                   [this](bool ok) {
                     if (!ok) return;
@@ -227,21 +237,29 @@ void FrmMatrice::Identity() {
 void FrmMatrice::Trace() { calc_.Trace(ActiveTab()); }
 
 void FrmMatrice::CharacteristicEquation() {
-  calc_.txtPrecision = txtPrecision_->text().toStdString();
-  calc_.chNule = chNule_->isChecked();
+  TakeOptions();
   calc_.CharacteristicEquation(ActiveTab());
   RefreshGrids();
 }
 
+// The row and column tools work on [A] only; elsewhere they say so.
+bool FrmMatrice::OnMatrixA() {
+  if (ActiveTab() == MatrixCalculator::kTabA) return true;
+  relay_->Show("Available only for matrix [A]", matrix::kCalculatorTitle, MsgIcon::Information,
+               platform::MsgButtons::Ok);
+  return false;
+}
+
+// The precision and "Add zeros in empty cells" as the window shows them.
+void FrmMatrice::TakeOptions() {
+  calc_.txtPrecision = txtPrecision_->text().toStdString();
+  calc_.chNule = chNule_->isChecked();
+}
+
 void FrmMatrice::MultiplyLine(bool column) {
-  if (ActiveTab() != MatrixCalculator::kTabA) {
-    relay_->Show("Available only for matrix [A]", matrix::kCalculatorTitle, MsgIcon::Information,
-                 platform::MsgButtons::Ok);
-    return;
-  }
+  if (!OnMatrixA()) return;
   const matrix::Grid& grid = calc_.grdGrid1;
-  const std::string size =
-      "Matrix Size: " + std::to_string(grid.Rows()) + " x " + std::to_string(grid.Cols());
+  const std::string size = DialogSize(grid);
   const auto texts =
       services_.lines->Ask(column ? LineDialogCaptions{"Multiply Column", size, "Column number:", "Factor:"}
                                   : LineDialogCaptions{"Multiply Row", size, "Row number:", "Factor:"});
@@ -249,37 +267,23 @@ void FrmMatrice::MultiplyLine(bool column) {
   const auto line =
       matrix::CheckLineFactor(texts->first, texts->second, column ? grid.Cols() : grid.Rows(), *relay_);
   if (line.index < 0) return;
-  calc_.txtPrecision = txtPrecision_->text().toStdString();
-  calc_.chNule = chNule_->isChecked();
+  TakeOptions();
   calc_.MultiplyLine(column, line.index, line.factor);
   RefreshGrids();
 }
 
 void FrmMatrice::SubmitLine(bool column) {
-  if (ActiveTab() != MatrixCalculator::kTabA) {
-    relay_->Show("Available only for matrix [A]", matrix::kCalculatorTitle, MsgIcon::Information,
-                 platform::MsgButtons::Ok);
-    return;
-  }
+  if (!OnMatrixA()) return;
   const matrix::Grid& grid = calc_.grdGrid1;
-  const std::string size =
-      "Matrix Size: " + std::to_string(grid.Rows()) + " x " + std::to_string(grid.Cols());
+  const std::string size = DialogSize(grid);
   const LineDialogCaptions captions =
       column ? LineDialogCaptions{"Submit column", size, "Submit column", "to the column"}
              : LineDialogCaptions{"Submit row", size, "Submit row", "to the row"};
-  for (;;) {
-    const auto texts = services_.lines->Ask(captions);
-    if (!texts) return;
-    const auto pair =
-        matrix::CheckLinePair(texts->first, texts->second, column ? grid.Cols() : grid.Rows(), *relay_);
-    if (!pair) continue;
-    if (pair->first < 0) return;
-    calc_.txtPrecision = txtPrecision_->text().toStdString();
-    calc_.chNule = chNule_->isChecked();
-    calc_.SubmitLine(column, pair->first, pair->second);
-    RefreshGrids();
-    return;
-  }
+  const auto pair = AskLinePair(captions, column ? grid.Cols() : grid.Rows());
+  if (!pair) return;
+  TakeOptions();
+  calc_.SubmitLine(column, pair->first, pair->second);
+  RefreshGrids();
 }
 
 }  // namespace velmora::matrix_qt

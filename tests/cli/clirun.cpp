@@ -103,6 +103,18 @@ CliScratch::~CliScratch() {
   std::filesystem::remove_all(folder_, ignored);
 }
 
+CliRun CliScratch::Plot(const std::vector<std::string>& args, bool ownFiles) const {
+  CliOptions options;
+  options.environment = {"HOME=" + folder_.string(), "XDG_CONFIG_HOME=" + (folder_ / "config").string(),
+                         "XDG_DATA_HOME=" + (folder_ / "data").string()};
+  options.joinErrorToOutput = true;
+  std::vector<std::string> words = {"plot"};
+  if (ownFiles)
+    words.insert(words.end(), {"--settings", Settings().string(), "--history", History().string()});
+  words.insert(words.end(), args.begin(), args.end());
+  return RunCli(words, options);
+}
+
 std::filesystem::path CliScratch::File(const std::string& name, const std::string& bytes) const {
   const auto path = folder_ / name;
   std::ofstream(path, std::ios::binary) << bytes;

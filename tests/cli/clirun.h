@@ -51,6 +51,13 @@ class CliScratch {
     return RunCli(args, input);
   }
 
+  // Runs plot with the folder's settings file and history file (unless
+  // `ownFiles` is false), both streams joined. The user's folders point into
+  // the folder too, so no run touches the real ones.
+  CliRun Plot(const std::vector<std::string>& args, bool ownFiles = true) const;
+  std::filesystem::path Settings() const { return Path("settings.ini"); }
+  std::filesystem::path History() const { return Path("GraphLog.txt"); }
+
  private:
   std::filesystem::path folder_;
 };

@@ -18,17 +18,8 @@ namespace fs = std::filesystem;
 
 class PlotPictureCli : public ::testing::Test {
  protected:
-  CliRun Plot(const std::vector<std::string>& args) {
-    CliOptions options;
-    options.environment = {"HOME=" + dir_.string(), "XDG_CONFIG_HOME=" + (dir_ / "config").string(),
-                           "XDG_DATA_HOME=" + (dir_ / "data").string()};
-    options.joinErrorToOutput = true;
-    std::vector<std::string> words = {"plot", "--settings", Settings().string(), "--history",
-                                      (dir_ / "GraphLog.txt").string()};
-    words.insert(words.end(), args.begin(), args.end());
-    return RunCli(words, options);
-  }
-  fs::path Settings() const { return dir_ / "settings.ini"; }
+  CliRun Plot(const std::vector<std::string>& args) { return scratch_.Plot(args); }
+  fs::path Settings() const { return scratch_.Settings(); }
 
   CliScratch scratch_{"plotpicture-" +
                       std::string(::testing::UnitTest::GetInstance()->current_test_info()->name())};

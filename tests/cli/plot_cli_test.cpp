@@ -28,22 +28,11 @@ std::vector<std::string> Split(const std::string& line) {
 
 class PlotCli : public ::testing::Test {
  protected:
-  // Runs plot with a settings file and a history file in the test's folder;
-  // the user's folders point there too, so no run touches the real ones.
   CliRun Plot(const std::vector<std::string>& args, bool ownFiles = true) {
-    CliOptions options;
-    options.environment = {"HOME=" + dir_.string(), "XDG_CONFIG_HOME=" + (dir_ / "config").string(),
-                           "XDG_DATA_HOME=" + (dir_ / "data").string()};
-    options.joinErrorToOutput = true;
-    std::vector<std::string> words = {"plot"};
-    if (ownFiles) {
-      words.insert(words.end(), {"--settings", Settings().string(), "--history", History().string()});
-    }
-    words.insert(words.end(), args.begin(), args.end());
-    return RunCli(words, options);
+    return scratch_.Plot(args, ownFiles);
   }
-  fs::path Settings() const { return dir_ / "settings.ini"; }
-  fs::path History() const { return dir_ / "GraphLog.txt"; }
+  fs::path Settings() const { return scratch_.Settings(); }
+  fs::path History() const { return scratch_.History(); }
   void SetGrid(const std::string& lines) { std::ofstream(Settings()) << "[Grid]\n" << lines; }
 
   CliScratch scratch_{"plot-" + std::string(::testing::UnitTest::GetInstance()->current_test_info()->name())};

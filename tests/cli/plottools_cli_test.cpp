@@ -14,17 +14,8 @@ namespace fs = std::filesystem;
 
 class PlotToolsCli : public ::testing::Test {
  protected:
-  CliRun Plot(const std::vector<std::string>& args) {
-    CliOptions options;
-    options.environment = {"HOME=" + dir_.string(), "XDG_CONFIG_HOME=" + (dir_ / "config").string(),
-                           "XDG_DATA_HOME=" + (dir_ / "data").string()};
-    options.joinErrorToOutput = true;
-    std::vector<std::string> words = {"plot", "--settings", (dir_ / "settings.ini").string(), "--history",
-                                      History().string()};
-    words.insert(words.end(), args.begin(), args.end());
-    return RunCli(words, options);
-  }
-  fs::path History() const { return dir_ / "GraphLog.txt"; }
+  CliRun Plot(const std::vector<std::string>& args) { return scratch_.Plot(args); }
+  fs::path History() const { return scratch_.History(); }
 
   CliScratch scratch_{"plottools-" +
                       std::string(::testing::UnitTest::GetInstance()->current_test_info()->name())};

@@ -5,6 +5,7 @@
 #include <cmath>
 #include <memory>
 #include <string>
+#include <utility>
 
 #include "expr/formulacontrol.h"
 #include "graph/graphwindow.h"
@@ -44,6 +45,19 @@ class ToolPixels : public ::testing::Test {
 
   QColor At(double x, double y) {
     return surface_.Image().pixelColor(static_cast<int>(x), static_cast<int>(y));
+  }
+  // The curve's and the blue text's pixels where the label box stands.
+  std::pair<int, int> CountInBox(const QImage& box) {
+    int curve = 0;
+    int text = 0;
+    for (int y = 0; y < box.height(); ++y) {
+      for (int x = 0; x < box.width(); ++x) {
+        const QColor c = At(kBoxLeft + x, kBoxTop + y);
+        curve += c == ToQColor(kCurve);
+        text += c == ToQColor(0x0000FF);
+      }
+    }
+    return {curve, text};
   }
   // The pixel of a user point.
   double Col(double x) const { return window_->View().CenterX() + x * window_->View().Zoom(); }
@@ -109,15 +123,7 @@ TEST_F(ToolPixels, AnOpaqueLabelCoversThePlotWithItsBox) {
   EXPECT_FALSE(window_->picMCRBox().Visible());
   const QImage box = RenderLabel(style, kPaper);
   // The curve Y = X crosses the box: under an opaque box only the box shows.
-  int curvePixels = 0;
-  int textPixels = 0;
-  for (int y = 0; y < box.height(); ++y) {
-    for (int x = 0; x < box.width(); ++x) {
-      const QColor c = At(kBoxLeft + x, kBoxTop + y);
-      curvePixels += c == ToQColor(kCurve);
-      textPixels += c == ToQColor(0x0000FF);
-    }
-  }
+  const auto [curvePixels, textPixels] = CountInBox(box);
   EXPECT_EQ(curvePixels, 0);
   EXPECT_GT(textPixels, 0);
 }
@@ -132,15 +138,7 @@ TEST_F(ToolPixels, ATransparentLabelLetsThePlotShowThrough) {
   ASSERT_TRUE(window_->cmdLabelL(style, kBoxLeft, kBoxTop));
   window_->daLabele();
   const QImage box = RenderLabel(style, kPaper);
-  int curvePixels = 0;
-  int textPixels = 0;
-  for (int y = 0; y < box.height(); ++y) {
-    for (int x = 0; x < box.width(); ++x) {
-      const QColor c = At(kBoxLeft + x, kBoxTop + y);
-      curvePixels += c == ToQColor(kCurve);
-      textPixels += c == ToQColor(0x0000FF);
-    }
-  }
+  const auto [curvePixels, textPixels] = CountInBox(box);
   EXPECT_GT(curvePixels, 0);
   EXPECT_GT(textPixels, 0);
 }

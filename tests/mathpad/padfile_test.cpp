@@ -14,6 +14,7 @@
 #include "mathpad/documentfile.h"
 #include "platform/memorysettingsstore.h"
 #include "rtf/rtfreader.h"
+#include "tests/support/fakefiledialogs.h"
 #include "tests/support/recordingmessagebox.h"
 #include "tests/support/scriptedinputbox.h"
 
@@ -44,31 +45,6 @@ class FakeView final : public PadView {
   rtf::Document content;
   std::string caption, fileName, size;
   std::vector<std::string> recent;
-};
-
-class FakeFiles final : public platform::FileDialog {
- public:
-  std::optional<std::string> Open(const std::string& title, const std::string& filter,
-                                  const std::string&) override {
-    return Next(title, filter);
-  }
-  std::optional<std::string> Save(const std::string& title, const std::string& filter, const std::string&,
-                                  const std::string&) override {
-    return Next(title, filter);
-  }
-  std::optional<std::string> Next(const std::string& title, const std::string& filter) {
-    titles.push_back(title);
-    filters.push_back(filter);
-    if (answers.empty()) {
-      ADD_FAILURE() << "unexpected file dialog " << title;
-      return std::nullopt;
-    }
-    auto answer = answers.front();
-    answers.pop_front();
-    return answer;
-  }
-  std::deque<std::optional<std::string>> answers;
-  std::vector<std::string> titles, filters;
 };
 
 class FakeShell final : public platform::ShellLauncher {
@@ -115,7 +91,7 @@ class PadFileTest : public ::testing::Test {
 
   fs::path folder;
   testing::RecordingMessageBox messages;
-  FakeFiles files;
+  testing::QueuedFileDialog files;
   testing::ScriptedInputBox input;
   platform::MemorySettingsStore settings;
   FakeShell shell;

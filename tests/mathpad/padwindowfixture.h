@@ -11,39 +11,11 @@
 
 #include "mathpad/qt/frmmapuskice.h"
 #include "platform/memorysettingsstore.h"
+#include "tests/support/fakefiledialogs.h"
 #include "tests/support/recordingmessagebox.h"
 #include "tests/support/scriptedinputbox.h"
 
 namespace velmora::mathpad_qt::testing {
-
-// File dialogs that answer from a queue and record what they were asked.
-class QueuedFileDialog final : public platform::FileDialog {
- public:
-  std::optional<std::string> Open(const std::string& title, const std::string& filter,
-                                  const std::string&) override {
-    return Next(title, filter);
-  }
-  std::optional<std::string> Save(const std::string& title, const std::string& filter, const std::string&,
-                                  const std::string&) override {
-    return Next(title, filter);
-  }
-  std::deque<std::optional<std::string>> answers;
-  std::vector<std::string> titles;
-  std::vector<std::string> filters;
-
- private:
-  std::optional<std::string> Next(const std::string& title, const std::string& filter) {
-    titles.push_back(title);
-    filters.push_back(filter);
-    if (answers.empty()) {
-      ADD_FAILURE() << "unexpected file dialog " << title;
-      return std::nullopt;
-    }
-    auto answer = answers.front();
-    answers.pop_front();
-    return answer;
-  }
-};
 
 class RecordingShell final : public platform::ShellLauncher {
  public:
@@ -80,7 +52,7 @@ class PadWindowTest : public ::testing::Test {
   platform::MemorySettingsStore settings;
   velmora::testing::RecordingMessageBox messages;
   velmora::testing::ScriptedInputBox input;
-  QueuedFileDialog files;
+  velmora::testing::QueuedFileDialog files;
   RecordingShell shell;
   FrmMaPuskice* pad = nullptr;
   // Null once the window has deleted itself.

@@ -10,15 +10,12 @@
 #include "expr/formulacontrol.h"
 #include "tests/support/fakegraphtarget.h"
 #include "tests/support/recordingmessagebox.h"
+#include "tests/tools/toolfixture.h"
 
 namespace velmora::tools {
 namespace {
 
-struct Fixture {
-  std::unique_ptr<expr::FormulaControl> engine = expr::MakeFormulaControl();
-  testing::RecordingMessageBox boxes;
-  CriticalPoints tool{*engine, boxes};
-
+struct Fixture : ToolOverEngine<CriticalPoints> {
   std::string Run(const char* function, const char* min, const char* max) {
     tool.minText = min;
     tool.maxText = max;

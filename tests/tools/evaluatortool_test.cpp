@@ -6,17 +6,12 @@
 #include <memory>
 #include <string>
 
-#include "expr/formulacontrol.h"
-#include "tests/support/recordingmessagebox.h"
+#include "tests/tools/toolfixture.h"
 
 namespace velmora::tools {
 namespace {
 
-struct Fixture {
-  std::unique_ptr<expr::FormulaControl> engine = expr::MakeFormulaControl();
-  testing::RecordingMessageBox boxes;
-  EvaluatorTool tool{*engine, boxes};
-};
+using Fixture = ToolOverEngine<EvaluatorTool>;
 
 TEST(EvaluatorTool, TheResultLabel) {
   struct Case {

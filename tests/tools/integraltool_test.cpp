@@ -9,17 +9,13 @@
 
 #include "expr/fault.h"
 #include "expr/formulacontrol.h"
-#include "tests/support/recordingmessagebox.h"
 #include "tests/support/scriptedformula.h"
+#include "tests/tools/toolfixture.h"
 
 namespace velmora::tools {
 namespace {
 
-struct Fixture {
-  std::unique_ptr<expr::FormulaControl> engine = expr::MakeFormulaControl();
-  testing::RecordingMessageBox boxes;
-  IntegralTool tool{*engine, boxes};
-};
+using Fixture = ToolOverEngine<IntegralTool>;
 
 TEST(IntegralTool, SimpsonAndTrapezoidOverTheEngine) {
   struct Case {

@@ -12,7 +12,9 @@
 #include <vector>
 
 #include "expr/formulacontrol.h"
+#include "tests/support/fakefiledialogs.h"
 #include "tests/support/filebytes.h"
+#include "tests/support/recordinglauncher.h"
 #include "tests/support/recordingmessagebox.h"
 #include "tools/valuetabletool.h"
 
@@ -144,37 +146,13 @@ TEST(TablePage, TidyFindsNoErrors) {
   }
 }
 
-class OneFileDialog final : public platform::FileDialog {
- public:
-  std::optional<std::string> Open(const std::string&, const std::string&, const std::string&) override {
-    return std::nullopt;
-  }
-  std::optional<std::string> Save(const std::string& title, const std::string& filter, const std::string&,
-                                  const std::string&) override {
-    titles.push_back(title + "|" + filter);
-    return answer;
-  }
-  std::optional<std::string> answer;
-  std::vector<std::string> titles;
-};
-
-class RecordingLauncher final : public platform::ShellLauncher {
- public:
-  int Execute(const std::string& file, const std::string&, const std::string&, const std::string& verb,
-              bool) override {
-    opened.push_back(verb + " " + file);
-    return 42;
-  }
-  std::vector<std::string> opened;
-};
-
 struct PublishFixture {
   PublishFixture() { fs::remove(path); }
   ~PublishFixture() { fs::remove(path); }
   fs::path path = fs::temp_directory_path() / "velmora_publish_test";
-  OneFileDialog files;
+  testing::SaveAnswerFileDialog files;
   testing::RecordingMessageBox boxes;
-  RecordingLauncher shell;
+  testing::RecordingLauncher shell;
   TablePublisher publisher{files, boxes, &shell};
   graph::ValueTable table = Table({{"X", "Y", "Y'"}, {"-1", "1", "-2"}});
 };
@@ -184,7 +162,7 @@ TEST(PublishTable, WritesTheFileAsNamedAndOpensThePreview) {
   f.files.answer = f.path.string();  // no extension: used as it stands
   f.boxes.Answer(platform::MsgResult::Yes);
   EXPECT_EQ(f.publisher.Publish(f.table, Head()), f.path.string());
-  EXPECT_EQ(f.files.titles, (std::vector<std::string>{"Publish Table|HTML (*.htm;*.html)|*.htm;*.html"}));
+  EXPECT_EQ(f.files.asked, (std::vector<std::string>{"Publish Table|HTML (*.htm;*.html)|*.htm;*.html"}));
   EXPECT_EQ(testing::ReadFileBytes(f.path), kPage);
   ASSERT_EQ(f.boxes.Boxes().size(), 1u);
   EXPECT_EQ(f.boxes.Boxes()[0].text, "Preview in Browser?");

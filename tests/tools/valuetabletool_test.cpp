@@ -8,17 +8,12 @@
 #include <string>
 #include <vector>
 
-#include "expr/formulacontrol.h"
-#include "tests/support/recordingmessagebox.h"
+#include "tests/tools/toolfixture.h"
 
 namespace velmora::tools {
 namespace {
 
-struct Fixture {
-  std::unique_ptr<expr::FormulaControl> engine = expr::MakeFormulaControl();
-  testing::RecordingMessageBox boxes;
-  ValueTableTool tool{*engine, boxes};
-};
+using Fixture = ToolOverEngine<ValueTableTool>;
 
 TEST(ValueTableTool, ACartesianTableOverTheDefaultRange) {
   Fixture f;

@@ -16,24 +16,12 @@
 #include <QVBoxLayout>
 
 #include "base/asciicase.h"
-#include "expr/checked.h"
-#include "expr/numtext.h"
 #include "platform/qt/qtstring.h"
 
 namespace velmora::tools_qt {
 
 using qtplatform::ToQString;
 using qtplatform::ToStdString;
-
-namespace {
-
-QString Rounded(double value) {
-  double rounded = 0;
-  expr::ResumeNext([&] { rounded = expr::RoundTo(value, 5); });
-  return ToQString(expr::NumberToText(rounded));
-}
-
-}  // namespace
 
 FrmAnalizaNew::FrmAnalizaNew(QWidget* owner, ToolServices services)
     : QWidget(owner, Qt::Window),
@@ -96,8 +84,8 @@ FrmAnalizaNew::FrmAnalizaNew(QWidget* owner, ToolServices services)
 
   if (graph::GraphToolTarget* graph = services_.ActiveGraph()) {
     txtformula_->setText(QStringLiteral("Y = ") + ToQString(graph->FunctionYText()));
-    txtMin_->setText(Rounded(graph->VisibleBounds().left));
-    txtMax_->setText(Rounded(graph->VisibleBounds().right));
+    txtMin_->setText(RangeEndText(graph->VisibleBounds().left));
+    txtMax_->setText(RangeEndText(graph->VisibleBounds().right));
   }
   resize(460, 420);
 }

@@ -17,8 +17,6 @@
 #include <QVBoxLayout>
 
 #include "base/asciicase.h"
-#include "expr/checked.h"
-#include "expr/numtext.h"
 #include "platform/qt/qtstring.h"
 
 namespace velmora::tools_qt {
@@ -35,12 +33,6 @@ QComboBox* FunctionBox(QWidget* parent) {
   box->setInsertPolicy(QComboBox::NoInsert);
   box->setMinimumWidth(280);
   return box;
-}
-
-QString Rounded(double value) {
-  double rounded = 0;
-  expr::ResumeNext([&] { rounded = expr::RoundTo(value, 5); });
-  return ToQString(expr::NumberToText(rounded));
 }
 
 }  // namespace
@@ -147,8 +139,8 @@ FrmNjutn::FrmNjutn(QWidget* owner, ToolServices services, ZeroKind kind)
     }
     text1_->setEditText(ToQString(graph->FunctionYText()));
     text7_->setEditText(QString());
-    text5_->setText(Rounded(graph->VisibleBounds().left));
-    text6_->setText(Rounded(graph->VisibleBounds().right));
+    text5_->setText(RangeEndText(graph->VisibleBounds().left));
+    text6_->setText(RangeEndText(graph->VisibleBounds().right));
   }
   OptionClicked();
   resize(480, 440);

@@ -8,6 +8,8 @@
 #include <QLineEdit>
 #include <QTimer>
 
+#include "expr/checked.h"
+#include "expr/numtext.h"
 #include "platform/qt/qtstring.h"
 
 namespace velmora::tools_qt {
@@ -33,6 +35,12 @@ void OnEnter(QComboBox* box, QObject* context, std::function<void()> command) {
     QTimer::singleShot(0, [pending] { *pending = false; });
     command();
   });
+}
+
+QString RangeEndText(double value) {
+  double rounded = 0;
+  expr::ResumeNext([&] { rounded = expr::RoundTo(value, 5); });
+  return qtplatform::ToQString(expr::NumberToText(rounded));
 }
 
 void PutText(const QString& text) {

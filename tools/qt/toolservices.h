@@ -39,6 +39,9 @@ std::string FromDisplay(const QString& text);
 // Enter in an editable combo box runs `command` once: the box hands the
 // key to its line edit a second time, which would run it twice.
 void OnEnter(QComboBox* box, QObject* context, std::function<void()> command);
+// An end of the graph's visible range as the range boxes start with it:
+// rounded to five decimals.
+QString RangeEndText(double value);
 // Clears the clipboard and puts a text on it.
 void PutText(const QString& text);
 

@@ -14,34 +14,13 @@
 #include "graph/qt/frmmini.h"
 #include "graph/qt/frmunesit.h"
 #include "graph/qt/picmcrbox.h"
-#include "platform/mathpadtarget.h"
-#include "platform/toolwindows.h"
 #include "tests/graph/qt/frmfuncfixture.h"
+#include "tests/support/fakemathpad.h"
 
 namespace velmora::testing {
 namespace {
 
 constexpr graph::Colour kTangent = graph::GraphWindow::kTangentColour;
-
-class FakeMathPad final : public platform::MathPadTarget {
- public:
-  void AppendText(const std::string& text) override { appended += text; }
-  void InsertText(const std::string&, const std::string&) override {}
-  void NewDocument(const std::string&) override {}
-  void OpenFile(const std::string& path) override { opened = path; }
-  std::string appended;
-  std::string opened;
-};
-
-class FakeTools final : public platform::ToolWindows {
- public:
-  bool Has(platform::ToolWindow window) const override { return window == platform::ToolWindow::MathPad; }
-  void Show(platform::ToolWindow) override {}
-  void ShowGraphMode() override {}
-  platform::MathPadTarget* MathPad() override { return &pad; }
-  platform::EvaluatorTarget* Evaluator(bool) override { return nullptr; }
-  FakeMathPad pad;
-};
 
 class FrmFuncTools : public FrmFuncTest {
  protected:
@@ -249,7 +228,7 @@ TEST_F(FrmFuncTools, ADeletedLabelLeavesThePictureAsItWas) {
 }
 
 TEST_F(FrmFuncTools, SaveHistoryAppendsTheHistoryToMathPadOnYes) {
-  FakeTools fake;
+  MathPadOnlyTools fake;
   tools = &fake;
   graph_qt::FrmFunc& w = Drawn(QStringLiteral("X^2"));
   EXPECT_TRUE(w.HasMathPad());

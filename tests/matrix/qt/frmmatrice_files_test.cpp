@@ -3,9 +3,8 @@
 // questions and preview, the command line's file, the text for MathPad.
 #include <QTemporaryDir>
 
-#include "platform/mathpadtarget.h"
-#include "platform/toolwindows.h"
 #include "tests/matrix/qt/matricefixture.h"
+#include "tests/support/fakemathpad.h"
 #include "tests/support/filebytes.h"
 
 namespace velmora::matrix_qt::testing {
@@ -135,27 +134,8 @@ TEST(FrmMatriceFiles, PublishWritesTheReportAndPreviewsItInTheBrowser) {
             "Error. Specified file path cannot be acceded (file is ReadOnly etc.)");
 }
 
-class Pad final : public platform::MathPadTarget {
- public:
-  void AppendText(const std::string&) override {}
-  void InsertText(const std::string&, const std::string&) override {}
-  void NewDocument(const std::string& text) override { documents.push_back(text); }
-  void OpenFile(const std::string&) override {}
-  std::vector<std::string> documents;
-};
-
-class Tools final : public platform::ToolWindows {
- public:
-  bool Has(platform::ToolWindow window) const override { return window == platform::ToolWindow::MathPad; }
-  void Show(platform::ToolWindow) override {}
-  void ShowGraphMode() override {}
-  platform::MathPadTarget* MathPad() override { return &pad; }
-  platform::EvaluatorTarget* Evaluator(bool) override { return nullptr; }
-  Pad pad;
-};
-
 TEST(FrmMatriceFiles, EditInMathPadHandsTheGridAsText) {
-  Tools tools;
+  velmora::testing::MathPadOnlyTools tools;
   velmora::testing::RecordingMessageBox messages;
   velmora::testing::ScriptedInputBox input;
   FrmMatriceServices s;

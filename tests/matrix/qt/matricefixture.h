@@ -18,41 +18,13 @@
 #include "matrix/qt/frmmatrice.h"
 #include "matrix/qt/gridview.h"
 #include "matrix/qt/linedialog.h"
-#include "platform/filedialog.h"
 #include "platform/memorysettingsstore.h"
 #include "platform/shellopen.h"
+#include "tests/support/fakefiledialogs.h"
 #include "tests/support/recordingmessagebox.h"
 #include "tests/support/scriptedinputbox.h"
 
 namespace velmora::matrix_qt::testing {
-
-// A file dialog answering from queues; nothing queued is a cancel.
-class ScriptedFiles final : public platform::FileDialog {
- public:
-  std::optional<std::string> Open(const std::string& title, const std::string& filter,
-                                  const std::string&) override {
-    titles.push_back(title);
-    filters.push_back(filter);
-    return Next();
-  }
-  std::optional<std::string> Save(const std::string& title, const std::string& filter, const std::string&,
-                                  const std::string&) override {
-    titles.push_back(title);
-    filters.push_back(filter);
-    return Next();
-  }
-  std::deque<std::optional<std::string>> answers;
-  std::vector<std::string> titles;
-  std::vector<std::string> filters;
-
- private:
-  std::optional<std::string> Next() {
-    if (answers.empty()) return std::nullopt;
-    auto a = answers.front();
-    answers.pop_front();
-    return a;
-  }
-};
 
 // A shell that records what it was asked to open and answers `result`.
 class RecordingShell final : public platform::ShellLauncher {
@@ -84,7 +56,7 @@ class ScriptedLines final : public LineDialogs {
 struct Matrice {
   velmora::testing::RecordingMessageBox messages;
   velmora::testing::ScriptedInputBox input;
-  ScriptedFiles files;
+  velmora::testing::QueuedFileDialog files;
   RecordingShell shell;
   ScriptedLines lines;
   platform::MemorySettingsStore settings;
@@ -92,6 +64,7 @@ struct Matrice {
   FrmMatrice* window = nullptr;
 
   Matrice() {
+    files.strict = false;  // an unexpected dialog is a cancel here
     FrmMatriceServices s;
     s.messages = &messages;
     s.input = &input;

@@ -23,9 +23,11 @@
 #include <QTimer>
 
 #include "platform/evaluatortarget.h"
-#include "platform/mathpadtarget.h"
+#include "tests/support/fakefiledialogs.h"
 #include "tests/support/fakegraphtarget.h"
+#include "tests/support/fakemathpad.h"
 #include "tests/support/filebytes.h"
+#include "tests/support/recordinglauncher.h"
 #include "tests/support/recordingmessagebox.h"
 #include "tools/qt/frmanalizanew.h"
 #include "tools/qt/frmintav.h"
@@ -36,56 +38,6 @@
 namespace velmora::tools_qt {
 namespace {
 
-class RecordingPad final : public platform::MathPadTarget {
- public:
-  void AppendText(const std::string&) override {}
-  void InsertText(const std::string& text, const std::string& fontName) override {
-    inserted.push_back(fontName + "|" + text);
-  }
-  void NewDocument(const std::string&) override {}
-  void OpenFile(const std::string&) override {}
-  std::vector<std::string> inserted;
-};
-
-// The frame's tool windows with MathPad present or missing.
-class FakeTools final : public platform::ToolWindows {
- public:
-  bool Has(platform::ToolWindow window) const override {
-    return window == platform::ToolWindow::MathPad && withPad;
-  }
-  void Show(platform::ToolWindow window) override { shown.push_back(window); }
-  void ShowGraphMode() override {}
-  platform::MathPadTarget* MathPad() override { return withPad ? &pad : nullptr; }
-  platform::EvaluatorTarget* Evaluator(bool) override { return nullptr; }
-  bool withPad = false;
-  RecordingPad pad;
-  std::vector<platform::ToolWindow> shown;
-};
-
-class OneFileDialog final : public platform::FileDialog {
- public:
-  std::optional<std::string> Open(const std::string&, const std::string&, const std::string&) override {
-    return std::nullopt;
-  }
-  std::optional<std::string> Save(const std::string& title, const std::string& filter, const std::string&,
-                                  const std::string&) override {
-    asked.push_back(title + "|" + filter);
-    return answer;
-  }
-  std::optional<std::string> answer;
-  std::vector<std::string> asked;
-};
-
-class RecordingLauncher final : public platform::ShellLauncher {
- public:
-  int Execute(const std::string& file, const std::string&, const std::string&, const std::string& verb,
-              bool) override {
-    opened.push_back(verb + " " + file);
-    return 42;
-  }
-  std::vector<std::string> opened;
-};
-
 struct Fixture {
   Fixture() {
     graph.y = "x^2-1";
@@ -93,6 +45,7 @@ struct Fixture {
     graph.drawnX = {"cos(k)"};
     graph.drawnParametricY = {"sin(k)"};
     graph.bounds = {-3, 3, 2, -2};
+    tools.withPad = false;  // MathPad is not open unless a test opens it
   }
   ToolServices Services() {
     ToolServices s;
@@ -105,9 +58,9 @@ struct Fixture {
   }
   testing::FakeGraphTarget graph;
   testing::RecordingMessageBox boxes;
-  FakeTools tools;
-  OneFileDialog files;
-  RecordingLauncher shell;
+  testing::MathPadOnlyTools tools;
+  testing::SaveAnswerFileDialog files;
+  testing::RecordingLauncher shell;
 };
 
 TEST(FrmTast, EvaluateShowsTheLabelAndTheHistory) {
