@@ -16,6 +16,7 @@
 #include <QVBoxLayout>
 
 #include "base/asciicase.h"
+#include "expr/numtext.h"
 #include "platform/qt/qtstring.h"
 
 namespace velmora::tools_qt {
