@@ -318,17 +318,8 @@ bool FrmComplex::PanelShown() const {
 }
 
 void FrmComplex::SetPanelShown(bool shown) {
-  if (shown) {
-    if (panel_ == nullptr) {
-      panel_ = new mathpad_qt::Frm2Text(this, *services_.messages, services_.tools);
-      connect(panel_, &mathpad_qt::Frm2Text::closedByItself, this, &FrmComplex::PanelClosedByItself);
-    }
-    panel_->PlaceBeside(*this);
-    panel_->show();
-    panel_->raise();
-  } else if (panel_ != nullptr) {
-    panel_->hide();
-  }
+  mathpad_qt::Frm2Text::ShowBeside(panel_, *this, shown, *services_.messages, services_.tools,
+                                   [this] { PanelClosedByItself(); });
   calc_.Fields().frm2textOpen = shown;
   Refresh();
 }

@@ -28,6 +28,22 @@ QFont LabelFont(const graph::LabelStyle& label) {
 
 }  // namespace
 
+graph::LabelStyle LabelStyleOf(const QString& text, const QFont& font, graph::Colour colour, double angle,
+                               bool transparent) {
+  graph::LabelStyle style;
+  style.text = text.toStdString();
+  style.fontName = font.family().toStdString();
+  style.fontSize = font.pointSizeF() > 0 ? font.pointSizeF() : style.fontSize;
+  style.bold = font.bold();
+  style.italic = font.italic();
+  style.underline = font.underline();
+  style.strikeout = font.strikeOut();
+  style.colour = colour;
+  style.angle = angle;
+  style.transparent = transparent;
+  return style;
+}
+
 QImage RenderLabel(const graph::LabelStyle& label, graph::Colour back) {
   const QFont font = LabelFont(label);
   const QFontMetricsF metrics(font);

@@ -1,6 +1,8 @@
 #pragma once
 
+#include <QFont>
 #include <QImage>
+#include <QString>
 
 #include "graph/labelstyle.h"
 
@@ -11,6 +13,11 @@ namespace velmora::graph_qt {
 // colour `back` sized to the turned text. The text is drawn without
 // smoothing, so every pixel is either text or background and a transparent
 // label can leave the background out exactly.
+// The label as the dialog and the in-window panel set it up: its text, the
+// chosen font with its styles, colour, angle and transparency.
+graph::LabelStyle LabelStyleOf(const QString& text, const QFont& font, graph::Colour colour, double angle,
+                               bool transparent);
+
 QImage RenderLabel(const graph::LabelStyle& label, graph::Colour back);
 
 // Copies a rendered label onto a picture with its top left at (left, top);

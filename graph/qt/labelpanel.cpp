@@ -13,6 +13,7 @@
 #include <QVBoxLayout>
 
 #include "expr/numtext.h"
+#include "graph/qt/labelimage.h"
 #include "graph/qt/qimagesurface.h"
 #include "platform/qt/qtstring.h"
 
@@ -116,18 +117,7 @@ void LabelPanel::SetAngle(double degrees) {
 }
 
 graph::LabelStyle LabelPanel::Style() const {
-  graph::LabelStyle style;
-  style.text = qtplatform::ToStdString(text2_->text());
-  style.fontName = qtplatform::ToStdString(font_.family());
-  style.fontSize = font_.pointSizeF() > 0 ? font_.pointSizeF() : style.fontSize;
-  style.bold = font_.bold();
-  style.italic = font_.italic();
-  style.underline = font_.underline();
-  style.strikeout = font_.strikeOut();
-  style.colour = colour_;
-  style.angle = angle_;
-  style.transparent = check1_->isChecked();
-  return style;
+  return LabelStyleOf(text2_->text(), font_, colour_, angle_, check1_->isChecked());
 }
 
 void LabelPanel::ShowColour() {

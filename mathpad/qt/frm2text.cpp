@@ -73,6 +73,23 @@ void Frm2Text::AppendText(const QString& text) {
 
 QString Frm2Text::Text() const { return rt1_->toPlainText(); }
 
+void Frm2Text::ShowBeside(QPointer<Frm2Text>& panel, QWidget& calculator, bool shown,
+                          platform::MessageBox& messages, platform::ToolWindows* tools,
+                          const std::function<void()>& closedByItself) {
+  if (!shown) {
+    if (panel != nullptr) panel->hide();
+    return;
+  }
+  if (panel == nullptr) {
+    // A window of its own beside the calculator, which goes with it.
+    panel = new Frm2Text(&calculator, messages, tools);
+    connect(panel, &Frm2Text::closedByItself, &calculator, closedByItself);
+  }
+  panel->PlaceBeside(calculator);
+  panel->show();
+  panel->raise();
+}
+
 void Frm2Text::PlaceBeside(const QWidget& calculator) {
   const QRect frame = calculator.frameGeometry();
   const QScreen* screen =

@@ -1,5 +1,8 @@
 #pragma once
 
+#include <functional>
+
+#include <QPointer>
 #include <QString>
 #include <QWidget>
 
@@ -36,6 +39,12 @@ class Frm2Text final : public QWidget {
   // Stands the panel beside `calculator`, right of it when the screen has
   // room there, else left of it, as tall as it.
   void PlaceBeside(const QWidget& calculator);
+  // Shows `panel` beside `calculator` (made on first use, with the
+  // calculator as its owner) or hides it. `closedByItself` is called when
+  // the user closes a panel made here.
+  static void ShowBeside(QPointer<Frm2Text>& panel, QWidget& calculator, bool shown,
+                         platform::MessageBox& messages, platform::ToolWindows* tools,
+                         const std::function<void()>& closedByItself);
 
  signals:
   // The user closed the panel (its own close button or the desktop's).

@@ -279,18 +279,8 @@ bool FrmTast::PanelShown() const {
 }
 
 void FrmTast::SetPanelShown(bool shown) {
-  if (shown) {
-    if (panel_ == nullptr) {
-      // A window of its own beside this one, which goes with this window.
-      panel_ = new mathpad_qt::Frm2Text(this, *services_.messages, services_.tools);
-      connect(panel_, &mathpad_qt::Frm2Text::closedByItself, this, &FrmTast::PanelClosedByItself);
-    }
-    panel_->PlaceBeside(*this);
-    panel_->show();
-    panel_->raise();
-  } else if (panel_ != nullptr) {
-    panel_->hide();
-  }
+  mathpad_qt::Frm2Text::ShowBeside(panel_, *this, shown, *services_.messages, services_.tools,
+                                   [this] { PanelClosedByItself(); });
 }
 
 void FrmTast::PanelMenuClicked() {
